@@ -1,0 +1,115 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <vector>
+
+#include "platform/vcl/core/Persistent.h"
+#include "platform/vcl/core/Sets.h"
+
+namespace vcl {
+
+enum class TOperation { opInsert, opRemove };
+enum class TComponentStateFlag {
+    csLoading,
+    csReading,
+    csWriting,
+    csDestroying,
+    csDesigning,
+    csAncestor,
+    csUpdating,
+    csFixups,
+    csInline,
+};
+using TComponentState = TSet<TComponentStateFlag>;
+using enum TOperation;
+using enum TComponentStateFlag;
+
+/// An object with a name and an owner that frees it; the unit of form files and designers.
+///
+/// Freeing: delete it, or let its owner do so. A component that refers to another one without owning it asks
+/// that one for a free notification and clears its reference in `Notification`. Destructors free what their
+/// own class owns; while they run, virtual calls reach the class being destroyed and its ancestors only, and
+/// `csDestroying` is set from the first moment when the object is freed through `Free`, its owner or its
+/// parent.
+class TComponent : public TPersistent {
+public:
+    explicit TComponent(TComponent* AOwner);
+    ~TComponent() override;
+
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+
+    /// Announces the destruction to the whole subtree (`Destroying`) and deletes the component.
+    void Free();
+
+    [[nodiscard]] TComponent* GetOwner() const { return FOwner; }
+    [[nodiscard]] const String& GetName() const { return FName; }
+    /// Renames the component. Raises EComponentError when the text is no identifier or a sibling has the
+    /// name.
+    virtual void SetName(const String& name);
+    [[nodiscard]] std::intptr_t GetTag() const { return FTag; }
+    void SetTag(std::intptr_t tag) { FTag = tag; }
+    [[nodiscard]] TComponentState GetComponentState() const { return FComponentState; }
+    [[nodiscard]] bool IsInState(TComponentStateFlag flag) const { return FComponentState.Contains(flag); }
+
+    [[nodiscard]] int GetComponentCount() const { return static_cast<int>(FComponents.size()); }
+    /// The owned component at the index; raises EListError outside the range.
+    [[nodiscard]] TComponent* GetComponent(int index) const;
+    /// The place in the owner's list, or -1 without an owner.
+    [[nodiscard]] int GetComponentIndex() const;
+    /// The owned component of that name, or null; ignores case.
+    [[nodiscard]] TComponent* FindComponent(StringView name) const;
+    void InsertComponent(TComponent* component);
+    void RemoveComponent(TComponent* component);
+    void DestroyComponents();
+
+    /// Asks for `Notification(component, opRemove)` here when `component` is freed, and the other way round.
+    void FreeNotification(TComponent* component);
+    void RemoveFreeNotification(TComponent* component);
+
+    /// Sets or clears design state on the component and all that it owns.
+    void SetDesigning(bool value, bool setChildren = true);
+    /// The component under which a form file nests this one (the parent of a control), or null.
+    [[nodiscard]] virtual TComponent* GetParentComponent() const { return nullptr; }
+    [[nodiscard]] virtual bool HasParent() const { return false; }
+    /// Makes `parent` the one that `GetParentComponent` returns; the default ignores it.
+    virtual void SetParentComponent(TComponent*) {}
+    /// Calls `visit` for each component that a form file nests under this one.
+    virtual void GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root);
+
+    /// For readers of form files: marks the component as being read, and as complete again.
+    void BeginLoading();
+    void EndLoading();
+
+    /// For a designer's place of a non-visual component, in pixels of its form.
+    [[nodiscard]] std::int32_t GetDesignInfo() const { return FDesignInfo; }
+    void SetDesignInfo(std::int32_t value) { FDesignInfo = value; }
+
+protected:
+    friend class TReader;
+
+    /// Tells that `component` came to (opInsert) or is leaving (opRemove) this component's surroundings.
+    virtual void Notification(TComponent* component, TOperation operation);
+    /// Called once after all properties have been read from a form file; clears csLoading.
+    virtual void Loaded();
+    /// Sets csDestroying here and in all owned components; descendants add what has to end while they are
+    /// whole.
+    virtual void BeforeDestruction() {}
+    void Destroying();
+    void SetState(TComponentStateFlag flag, bool present) { FComponentState.Put(flag, present); }
+    virtual void ValidateRename(TComponent* component, const String& current, const String& next);
+    virtual void ChangeName(const String& name) { FName = name; }
+
+private:
+    TComponent* FOwner = nullptr;
+    String FName;
+    std::intptr_t FTag = 0;
+    std::vector<TComponent*> FComponents;
+    std::vector<TComponent*> FFreeNotifies;
+    std::int32_t FDesignInfo = 0;
+    TComponentState FComponentState;
+};
+
+}  // namespace vcl

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/vcl/core/Object.h"
+
+namespace vcl {
+
+/// An object that can be assigned to others of its kind and whose published properties form files can hold.
+class TPersistent : public TObject {
+public:
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+
+    /// Takes over the contents of `source` (null clears where the class allows it). The default asks the
+    /// source to assign itself here; raises EConvertError "Cannot assign a <source> to a <class>" when
+    /// neither knows how.
+    virtual void Assign(const TPersistent* source);
+
+protected:
+    /// The other half of `Assign`: writes this object's contents into `dest`.
+    virtual void AssignTo(TPersistent* dest) const;
+
+private:
+    [[noreturn]] void RaiseAssignError(const TPersistent* source) const;
+};
+
+}  // namespace vcl
