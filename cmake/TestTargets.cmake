@@ -1,0 +1,51 @@
+# Test programs: GoogleTest, the test library, one precompiled header for all of them.
+
+# GoogleTest from its sources where the system brings them, else as an installed package.
+if(EXISTS /usr/src/googletest/CMakeLists.txt)
+  set(INSTALL_GTEST OFF)
+  set(BUILD_GMOCK OFF)
+  block(SCOPE_FOR VARIABLES)
+    set(BUILD_SHARED_LIBS OFF)
+    set(gtest_force_shared_crt ON)
+    add_subdirectory(/usr/src/googletest "${PROJECT_BINARY_DIR}/googletest" EXCLUDE_FROM_ALL SYSTEM)
+  endblock()
+else()
+  find_package(GTest REQUIRED)
+endif()
+
+# Tests are compiled often and run briefly: no optimisation.
+if(MSVC)
+  set(TEST_OPTIONS "")
+else()
+  set(TEST_OPTIONS -O0)
+endif()
+
+house_pch(test_pch HEADERS "${PROJECT_SOURCE_DIR}/platform/vcl/Pch.h" <gtest/gtest.h> OPTIONS ${TEST_OPTIONS}
+  USES GTest::gtest)
+
+# tests/support, with the main function of every test program.
+function(test_support_library)
+  house_sources(sources tests/support)
+  if(NOT sources)
+    return()
+  endif()
+  if(QV7_COMPILE_ONLY)
+    add_library(test_support OBJECT ${sources})
+  else()
+    add_library(test_support STATIC ${sources})
+  endif()
+  house_setup(test_support)
+  house_use(test_support vcl)
+  target_link_libraries(test_support PUBLIC GTest::gtest)
+  target_compile_options(test_support PRIVATE ${TEST_OPTIONS})
+  target_precompile_headers(test_support REUSE_FROM test_pch)
+endfunction()
+
+# One test program. With ctest it is one test; ./run test splits it by suite.
+function(house_tests name)
+  house_executable(${name} PCH test_pch USES QV7Skin velmora tms flatstyle vcl test_support GTest::gtest
+    OPTIONS ${TEST_OPTIONS} ${ARGN})
+  if(TARGET ${name} AND NOT QV7_COMPILE_ONLY)
+    add_test(NAME ${name} COMMAND ${name})
+  endif()
+endfunction()
