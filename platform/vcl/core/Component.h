@@ -43,6 +43,8 @@ public:
 
     /// Announces the destruction to the whole subtree (`Destroying`) and deletes the component.
     void Free();
+    /// Sets csDestroying here and in all owned components and calls `BeforeDestruction` of each, once.
+    void Destroying();
 
     [[nodiscard]] TComponent* GetOwner() const { return FOwner; }
     [[nodiscard]] const String& GetName() const { return FName; }
@@ -61,12 +63,19 @@ public:
     [[nodiscard]] int GetComponentIndex() const;
     /// The owned component of that name, or null; ignores case.
     [[nodiscard]] TComponent* FindComponent(StringView name) const;
+    /// Becomes the owner of the component, which leaves its former owner, takes over the design state and is
+    /// announced with opInsert. Raises EComponentError when an owned component has the same name, and
+    /// EInvalidOperation when it would come to own itself.
     void InsertComponent(TComponent* component);
+    /// Announces opRemove and gives the component up without freeing it.
     void RemoveComponent(TComponent* component);
+    /// Frees the owned components, the last one first.
     void DestroyComponents();
 
     /// Asks for `Notification(component, opRemove)` here when `component` is freed, and the other way round.
+    /// Components of one owner hear of each other through it anyway.
     void FreeNotification(TComponent* component);
+    /// Ends that agreement on both sides.
     void RemoveFreeNotification(TComponent* component);
 
     /// Sets or clears design state on the component and all that it owns.
@@ -90,19 +99,25 @@ public:
 protected:
     friend class TReader;
 
-    /// Tells that `component` came to (opInsert) or is leaving (opRemove) this component's surroundings.
+    /// Tells that `component` came to (opInsert) or is leaving (opRemove) this component's surroundings: what
+    /// the owner hears, all that it owns hears too. The component may be under construction or half
+    /// destroyed, so compare the pointer and ask it nothing but what `TComponent` offers.
     virtual void Notification(TComponent* component, TOperation operation);
     /// Called once after all properties have been read from a form file; clears csLoading.
     virtual void Loaded();
-    /// Sets csDestroying here and in all owned components; descendants add what has to end while they are
-    /// whole.
+    /// Called once, when the component is freed through `Free`, its owner or its parent: what has to end
+    /// while the object is still whole.
     virtual void BeforeDestruction() {}
-    void Destroying();
     void SetState(TComponentStateFlag flag, bool present) { FComponentState.Put(flag, present); }
+    /// Called on the owner before one of its components gets, changes or loses its name (and on the component
+    /// itself, with null, when it has no owner): raises EComponentError when the new name is taken. Must not
+    /// raise when the name is given up, since that happens in destructors.
     virtual void ValidateRename(TComponent* component, const String& current, const String& next);
     virtual void ChangeName(const String& name) { FName = name; }
 
 private:
+    [[nodiscard]] bool OwnsOrIs(const TComponent* component) const;
+
     TComponent* FOwner = nullptr;
     String FName;
     std::intptr_t FTag = 0;

@@ -12,6 +12,8 @@ class TObjectList : public TObject {
 public:
     explicit TObjectList(bool AOwnsObjects = true) : FOwnsObjects(AOwnsObjects) {}
     ~TObjectList() override;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
 
     [[nodiscard]] int GetCount() const { return static_cast<int>(FItems.size()); }
     [[nodiscard]] bool GetOwnsObjects() const { return FOwnsObjects; }
@@ -36,6 +38,7 @@ public:
     [[nodiscard]] int IndexOf(const TObject* object) const;
     void Move(int currentIndex, int newIndex);
     void Exchange(int a, int b);
+    /// Empties the list from the end, freeing the objects when owning.
     void Clear();
 
     [[nodiscard]] const std::vector<TObject*>& Items() const { return FItems; }

@@ -28,8 +28,9 @@ public:
     virtual int AddObject(const String& text, TObject* object);
     int Add(const String& text) { return AddObject(text, nullptr); }
     void Insert(int index, const String& text) { InsertObject(index, text, nullptr); }
+    /// Appends all texts and objects of the other list.
     void AddStrings(const TStrings& source);
-    /// The first index with that text, or -1; ignores case.
+    /// The first index with that text, or -1; ignores case by the rules of the user's locale.
     [[nodiscard]] virtual int IndexOf(StringView text) const;
     [[nodiscard]] int IndexOfObject(const TObject* object) const;
     virtual void Move(int currentIndex, int newIndex);
@@ -73,6 +74,7 @@ public:
     int AddObject(const String& text, TObject* object) override;
     void Delete(int index) override;
     void Clear() override;
+    void Move(int currentIndex, int newIndex) override;
     void Exchange(int a, int b) override;
     [[nodiscard]] int IndexOf(StringView text) const override;
 
@@ -94,6 +96,9 @@ private:
         TObject* Object;
     };
     void CheckIndex(int index, int limit) const;
+    void CheckUnsorted() const;
+    void Insert(int index, TItem item);
+    /// The place of the text in a sorted list, or where it would go.
     [[nodiscard]] bool Find(StringView text, int& index) const;
     std::vector<TItem> FItems;
     bool FSorted = false;

@@ -1,0 +1,166 @@
+#include "platform/vcl/core/Component.h"
+
+#include <algorithm>
+
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/Identifiers.h"
+
+namespace vcl {
+
+const TMetaClass& TComponent::StaticClass() {
+    // Form files write the name beside the class, not as a property.
+    static const TMetaClass meta = DefineClass<TComponent>(L"TComponent", TPersistent::StaticClass())
+                                       .Property(L"Name", &TComponent::GetName, &TComponent::SetName)
+                                       .NotStored()
+                                       .Property(L"Tag", &TComponent::GetTag, &TComponent::SetTag, 0);
+    return meta;
+}
+
+TComponent::TComponent(TComponent* AOwner) {
+    if (AOwner) AOwner->InsertComponent(this);
+}
+
+TComponent::~TComponent() {
+    Destroying();
+    while (!FFreeNotifies.empty()) {
+        TComponent* listener = FFreeNotifies.back();
+        RemoveFreeNotification(listener);
+        listener->Notification(this, opRemove);
+    }
+    DestroyComponents();
+    if (FOwner) FOwner->RemoveComponent(this);
+}
+
+void TComponent::Free() {
+    Destroying();
+    delete this;
+}
+
+void TComponent::Destroying() {
+    if (IsInState(csDestroying)) return;
+    SetState(csDestroying, true);
+    BeforeDestruction();
+    // By index: what ends in there may free other components of the list.
+    for (std::size_t i = 0; i < FComponents.size(); ++i)
+        FComponents[i]->Destroying();
+}
+
+void TComponent::SetName(const String& name) {
+    if (name == FName) return;
+    if (!name.empty() && !IsValidIdent(name))
+        throw EComponentError(Format(L"'%s' is not a valid component name", name));
+    if (FOwner)
+        FOwner->ValidateRename(this, FName, name);
+    else
+        ValidateRename(nullptr, FName, name);
+    ChangeName(name);
+}
+
+void TComponent::ValidateRename(TComponent* component, const String& current, const String& next) {
+    if (component && !SameText(current, next) && component->FOwner == this && FindComponent(next))
+        throw EComponentError(Format(L"A component named %s already exists", next));
+    // A designer that stands above wants to know of every name in its form.
+    if (IsInState(csDesigning) && FOwner) FOwner->ValidateRename(component, current, next);
+}
+
+TComponent* TComponent::GetComponent(int index) const {
+    if (index < 0 || index >= GetComponentCount())
+        throw EListError(Format(L"List index out of bounds (%d)", index));
+    return FComponents[static_cast<std::size_t>(index)];
+}
+
+int TComponent::GetComponentIndex() const {
+    if (!FOwner) return -1;
+    const auto& siblings = FOwner->FComponents;
+    return static_cast<int>(std::ranges::find(siblings, this) - siblings.begin());
+}
+
+TComponent* TComponent::FindComponent(StringView name) const {
+    if (name.empty()) return nullptr;
+    const auto found = std::ranges::find_if(
+        FComponents, [&](const TComponent* component) { return SameText(component->FName, name); });
+    return found == FComponents.end() ? nullptr : *found;
+}
+
+bool TComponent::OwnsOrIs(const TComponent* component) const {
+    while (component && component != this)
+        component = component->FOwner;
+    return component != nullptr;
+}
+
+void TComponent::InsertComponent(TComponent* component) {
+    if (component->OwnsOrIs(this)) throw EInvalidOperation(L"A component can't own itself");
+    if (component->FOwner == this) return;
+    if (FindComponent(component->FName))
+        throw EComponentError(Format(L"A component named %s already exists", component->FName));
+    if (component->FOwner) component->FOwner->RemoveComponent(component);
+    ValidateRename(component, {}, component->FName);
+    FComponents.push_back(component);
+    component->FOwner = this;
+    if (IsInState(csDesigning)) component->SetDesigning(true);
+    Notification(component, opInsert);
+}
+
+void TComponent::RemoveComponent(TComponent* component) {
+    if (!component || component->FOwner != this) return;
+    ValidateRename(component, component->FName, {});
+    Notification(component, opRemove);
+    if (component->FOwner != this) return;
+    // Mostly it is the last one that goes.
+    const auto place = std::find(FComponents.rbegin(), FComponents.rend(), component);
+    FComponents.erase(std::next(place).base());
+    component->FOwner = nullptr;
+}
+
+void TComponent::DestroyComponents() {
+    while (!FComponents.empty()) {
+        TComponent* component = FComponents.back();
+        component->Destroying();
+        RemoveComponent(component);
+        delete component;
+    }
+}
+
+void TComponent::FreeNotification(TComponent* component) {
+    if (!component || component == this || (FOwner && component->FOwner == FOwner)) return;
+    if (std::ranges::find(FFreeNotifies, component) != FFreeNotifies.end()) return;
+    FFreeNotifies.push_back(component);
+    component->FFreeNotifies.push_back(this);
+}
+
+void TComponent::RemoveFreeNotification(TComponent* component) {
+    if (!component || std::erase(FFreeNotifies, component) == 0) return;
+    std::erase(component->FFreeNotifies, this);
+}
+
+void TComponent::Notification(TComponent* component, TOperation operation) {
+    if (operation == opRemove) RemoveFreeNotification(component);
+    // From the end, looking again each time: a component may free others when it hears this.
+    for (std::size_t i = FComponents.size(); i > 0; i = std::min(i - 1, FComponents.size()))
+        FComponents[i - 1]->Notification(component, operation);
+}
+
+void TComponent::SetDesigning(bool value, bool setChildren) {
+    SetState(csDesigning, value);
+    if (!setChildren) return;
+    for (TComponent* component : FComponents)
+        component->SetDesigning(value);
+}
+
+void TComponent::GetChildren(const std::function<void(TComponent*)>&, TComponent*) {}
+
+void TComponent::BeginLoading() {
+    SetState(csLoading, true);
+    SetState(csReading, true);
+}
+
+void TComponent::EndLoading() {
+    SetState(csReading, false);
+    if (IsInState(csLoading)) Loaded();
+}
+
+void TComponent::Loaded() {
+    SetState(csLoading, false);
+}
+
+}  // namespace vcl

@@ -1,0 +1,96 @@
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Strings.h"
+
+#include <cwchar>
+
+namespace vcl {
+
+/// Walks through one format text.
+class TFormatter {
+public:
+    TFormatter(StringView format, std::span<const TFormatArg> args) : FFormat(format), FArgs(args) {}
+
+    String Run() {
+        while (FAt < FFormat.size()) {
+            const std::size_t sign = FFormat.find(L'%', FAt);
+            FResult += FFormat.substr(FAt, sign - FAt);
+            if (sign == StringView::npos) break;
+            FAt = sign;
+            Place();
+        }
+        return std::move(FResult);
+    }
+
+private:
+    /// One place, from its percent sign to its letter.
+    void Place() {
+        const std::size_t start = FAt++;
+        const std::size_t flags = FFormat.find_first_not_of(L"-+ #0123456789.", FAt);
+        const std::size_t letterAt = FFormat.find_first_not_of(L"hljztIw", flags);
+        if (flags == StringView::npos || letterAt == StringView::npos) Misfit(FFormat.substr(start));
+        const String options(FFormat.substr(FAt, flags - FAt));
+        FAt = letterAt + 1;
+        const wchar_t letter = FFormat[letterAt];
+        if (letter == L'%') {
+            FResult += L'%';
+            return;
+        }
+        if (FNext >= FArgs.size()) Misfit(FFormat.substr(start, FAt - start));
+        if (!Append(options, letter, FArgs[FNext++])) Misfit(FFormat.substr(start, FAt - start));
+    }
+
+    bool Append(const String& options, wchar_t letter, const TFormatArg& arg) {
+        const auto* integer = std::get_if<TFormatArg::TInteger>(&arg.FValue);
+        switch (letter) {
+            case L'd':
+            case L'i':
+                return integer && Print(options, L"I64d", integer->Signed);
+            case L'u':
+            case L'x':
+            case L'X':
+                return integer && Print(options, String(L"I64") + letter, integer->Unsigned);
+            case L'c':
+                return integer && Print(options, L"c", static_cast<int>(integer->Signed));
+            case L's': {
+                const auto* text = std::get_if<StringView>(&arg.FValue);
+                return text && Print(options, L"s", String(*text).c_str());
+            }
+            case L'f':
+            case L'e':
+            case L'g': {
+                const auto* number = std::get_if<double>(&arg.FValue);
+                return number && Print(options, String(1, letter), *number);
+            }
+            default:
+                return false;
+        }
+    }
+
+    /// Hands the place to the C library of the system, whose `s` and `c` take wide texts.
+    template <class T>
+    bool Print(const String& options, const String& conversion, T value) {
+        const String place = L'%' + options + conversion;
+        const int length = _scwprintf(place.c_str(), value);
+        if (length < 0) return false;
+        String text(static_cast<std::size_t>(length), L'\0');
+        _snwprintf(text.data(), text.size() + 1, place.c_str(), value);
+        FResult += text;
+        return true;
+    }
+
+    [[noreturn]] static void Misfit(StringView place) {
+        throw EConvertError(L"Format '" + String(place) + L"' invalid or incompatible with argument");
+    }
+
+    StringView FFormat;
+    std::span<const TFormatArg> FArgs;
+    String FResult;
+    std::size_t FAt = 0;
+    std::size_t FNext = 0;
+};
+
+String FormatArgs(StringView format, std::span<const TFormatArg> args) {
+    return TFormatter(format, args).Run();
+}
+
+}  // namespace vcl

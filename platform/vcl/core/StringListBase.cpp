@@ -1,0 +1,128 @@
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/StringList.h"
+
+namespace vcl {
+namespace {
+
+/// Changes the list inside an update bracket, which ends also when the change raises.
+template <class Body>
+void Bracketed(TStrings& list, Body change) {
+    list.BeginUpdate();
+    try {
+        change();
+    } catch (...) {
+        list.EndUpdate();
+        throw;
+    }
+    list.EndUpdate();
+}
+
+}  // namespace
+
+const TMetaClass& TStrings::StaticClass() {
+    static const TMetaClass meta = DefineClass<TStrings>(L"TStrings", TPersistent::StaticClass());
+    return meta;
+}
+
+int TStrings::AddObject(const String& text, TObject* object) {
+    const int index = GetCount();
+    InsertObject(index, text, object);
+    return index;
+}
+
+void TStrings::AddStrings(const TStrings& source) {
+    Bracketed(*this, [&] {
+        // The count is taken once, so that a list can be appended to itself.
+        const int count = source.GetCount();
+        for (int i = 0; i < count; ++i)
+            AddObject(source.Get(i), source.GetObject(i));
+    });
+}
+
+int TStrings::IndexOf(StringView text) const {
+    const int count = GetCount();
+    for (int i = 0; i < count; ++i) {
+        if (CompareText(Get(i), text) == 0) return i;
+    }
+    return -1;
+}
+
+int TStrings::IndexOfObject(const TObject* object) const {
+    const int count = GetCount();
+    for (int i = 0; i < count; ++i) {
+        if (GetObject(i) == object) return i;
+    }
+    return -1;
+}
+
+void TStrings::Move(int currentIndex, int newIndex) {
+    if (currentIndex == newIndex) return;
+    Bracketed(*this, [&] {
+        const String text = Get(currentIndex);
+        TObject* object = GetObject(currentIndex);
+        Delete(currentIndex);
+        InsertObject(newIndex, text, object);
+    });
+}
+
+void TStrings::Exchange(int a, int b) {
+    Bracketed(*this, [&] {
+        const String text = Get(a);
+        TObject* object = GetObject(a);
+        const String other = Get(b);
+        TObject* otherObject = GetObject(b);
+        Put(a, other);
+        PutObject(a, otherObject);
+        Put(b, text);
+        PutObject(b, object);
+    });
+}
+
+String TStrings::GetText() const {
+    String text;
+    const int count = GetCount();
+    for (int i = 0; i < count; ++i)
+        text.append(Get(i)).append(L"\r\n");
+    return text;
+}
+
+void TStrings::SetText(const String& text) {
+    Bracketed(*this, [&] {
+        Clear();
+        for (const String& line : SplitLines(text))
+            Add(line);
+    });
+}
+
+bool TStrings::Equals(const TStrings& other) const {
+    const int count = GetCount();
+    if (count != other.GetCount()) return false;
+    for (int i = 0; i < count; ++i) {
+        if (Get(i) != other.Get(i)) return false;
+    }
+    return true;
+}
+
+void TStrings::BeginUpdate() {
+    if (FUpdateCount == 0) SetUpdateState(true);
+    ++FUpdateCount;
+}
+
+void TStrings::EndUpdate() {
+    if (FUpdateCount == 0) return;
+    if (--FUpdateCount == 0) SetUpdateState(false);
+}
+
+void TStrings::SetUpdateState(bool) {}
+
+void TStrings::Assign(const TPersistent* source) {
+    if (source == this) return;
+    const auto* strings = dynamic_cast<const TStrings*>(source);
+    if (!strings) return TPersistent::Assign(source);
+    Bracketed(*this, [&] {
+        Clear();
+        AddStrings(*strings);
+    });
+}
+
+}  // namespace vcl
