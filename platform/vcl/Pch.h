@@ -3,7 +3,7 @@
 // What nearly every source needs: the Windows API and the standard library. Sources still include what they use;
 // this only makes compiling them faster.
 
-#include <windows.h>
+#include "platform/vcl/core/WindowsApi.h"
 #include <windowsx.h>
 #include <commctrl.h>
 #include <objbase.h>

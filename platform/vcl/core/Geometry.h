@@ -1,8 +1,8 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstddef>
+
+#include "platform/vcl/core/WindowsApi.h"
 
 namespace vcl {
 

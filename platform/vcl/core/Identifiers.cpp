@@ -1,6 +1,6 @@
 #include "platform/vcl/core/Identifiers.h"
 
-#include <windows.h>
+#include "platform/vcl/core/WindowsApi.h"
 
 #include <algorithm>
 

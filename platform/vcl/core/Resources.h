@@ -1,11 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstddef>
 #include <span>
 
 #include "platform/vcl/core/Strings.h"
+#include "platform/vcl/core/WindowsApi.h"
 
 namespace vcl {
 

@@ -4,6 +4,7 @@
 
 #include "platform/vcl/core/Events.h"
 #include "platform/vcl/core/Persistent.h"
+#include "platform/vcl/core/WindowsApi.h"
 
 namespace vcl {
 

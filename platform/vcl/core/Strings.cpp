@@ -1,6 +1,6 @@
 #include "platform/vcl/core/Strings.h"
 
-#include <windows.h>
+#include "platform/vcl/core/WindowsApi.h"
 
 #include <limits>
 #include <optional>
