@@ -1,0 +1,345 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/vcl/controls/ControlTypes.h"
+#include "platform/vcl/controls/Messages.h"
+#include "platform/vcl/controls/SizeConstraints.h"
+#include "platform/vcl/core/Component.h"
+#include "platform/vcl/core/LifeGuard.h"
+#include "platform/vcl/graphics/Colors.h"
+
+namespace vcl {
+
+class TBasicAction;
+class TBasicActionLink;
+class TContextMenu;
+class TDragObject;
+class TFont;
+class TWinControl;
+struct THintInfo;
+
+/// A visible component: a rectangle in a parent, with or without a window of its own (`TWinControl`,
+/// `TGraphicControl`). Coordinates are pixels of the parent's client area.
+///
+/// Messages: `WndProc` sees all of them, `Dispatch` is the map from messages to handlers, `DefaultHandler`
+/// is what remains. A descendant overrides `Dispatch` with one switch and leaves the rest to its ancestor's.
+///
+/// Freed in its own event: whoever calls out keeps a `TLifeGuard` and leaves at once when the control is
+/// gone. Overrides of `Click`, `MouseDown`, `KeyDown` ... do the same after the inherited call when they go
+/// on to touch the control.
+class TControl : public TComponent, public TGuarded {
+public:
+    explicit TControl(TComponent* AOwner);
+    ~TControl() override;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+
+    // --- parent -------------------------------------------------------------------------------------------
+    [[nodiscard]] TWinControl* GetParent() const { return FParent; }
+    /// Moves the control to another parent (null: none). The parent frees it. Raises EInvalidOperation for a
+    /// control that would come to stand in itself.
+    virtual void SetParent(TWinControl* value);
+    [[nodiscard]] bool HasParent() const override { return FParent != nullptr; }
+    [[nodiscard]] TComponent* GetParentComponent() const override;
+    void SetParentComponent(TComponent* value) override;
+    /// This control as one with a window, or null.
+    [[nodiscard]] virtual TWinControl* AsWinControl() { return nullptr; }
+    [[nodiscard]] const TWinControl* AsWinControl() const {
+        return const_cast<TControl*>(this)->AsWinControl();
+    }
+
+    // --- geometry (ControlGeometry.cpp)
+    // ---------------------------------------------------------------------
+    [[nodiscard]] int GetLeft() const { return FLeft; }
+    [[nodiscard]] int GetTop() const { return FTop; }
+    [[nodiscard]] int GetWidth() const { return FWidth; }
+    [[nodiscard]] int GetHeight() const { return FHeight; }
+    void SetLeft(int value) { SetBounds(value, FTop, FWidth, FHeight); }
+    void SetTop(int value) { SetBounds(FLeft, value, FWidth, FHeight); }
+    void SetWidth(int value) { SetBounds(FLeft, FTop, value, FHeight); }
+    void SetHeight(int value) { SetBounds(FLeft, FTop, FWidth, value); }
+    /// Place and size in one step; every change of either goes through here. Constraints and `CanResize` may
+    /// change the size first; negative sizes count as 0.
+    virtual void SetBounds(int ALeft, int ATop, int AWidth, int AHeight);
+    [[nodiscard]] TRect GetBoundsRect() const { return TRect::OfSize(FLeft, FTop, FWidth, FHeight); }
+    void SetBoundsRect(const TRect& r) { SetBounds(r.Left, r.Top, r.Width(), r.Height()); }
+    /// The inside, from (0, 0). Reading it never makes a window.
+    [[nodiscard]] virtual TRect GetClientRect() const;
+    [[nodiscard]] int GetClientWidth() const { return GetClientRect().Right; }
+    [[nodiscard]] int GetClientHeight() const { return GetClientRect().Bottom; }
+    void SetClientWidth(int value) { SetClientSize({value, GetClientHeight()}); }
+    void SetClientHeight(int value) { SetClientSize({GetClientWidth(), value}); }
+    /// The client area's top left corner in screen pixels. Raises EInvalidOperation "Control '<name>' has no
+    /// parent window" for a control that stands in no window.
+    [[nodiscard]] virtual TPoint GetClientOrigin() const;
+    [[nodiscard]] TPoint ClientToScreen(TPoint point) const;
+    [[nodiscard]] TPoint ScreenToClient(TPoint point) const;
+    /// The point in client pixels of `ancestor` (null: of the parent).
+    [[nodiscard]] TPoint ClientToParent(TPoint point, const TWinControl* ancestor = nullptr) const;
+    [[nodiscard]] TPoint ParentToClient(TPoint point, const TWinControl* ancestor = nullptr) const;
+    [[nodiscard]] TAlign GetAlign() const { return FAlign; }
+    void SetAlign(TAlign value);
+    [[nodiscard]] TAnchors GetAnchors() const { return FAnchors; }
+    void SetAnchors(TAnchors value);
+    [[nodiscard]] TSizeConstraints& GetConstraints() const { return *FConstraints; }
+    void SetConstraints(const TSizeConstraints& value) { FConstraints->Assign(&value); }
+    [[nodiscard]] bool GetAutoSize() const { return FAutoSize; }
+    virtual void SetAutoSize(bool value);
+    void BringToFront();
+    void SendToBack();
+
+    // --- look (ControlProperties.cpp)
+    // -----------------------------------------------------------------------
+    [[nodiscard]] bool GetVisible() const { return FVisible; }
+    void SetVisible(bool value);
+    void Show();
+    void Hide() { SetVisible(false); }
+    /// Its own switch; a control on a disabled parent keeps it but gets no input.
+    [[nodiscard]] virtual bool GetEnabled() const { return FEnabled; }
+    virtual void SetEnabled(bool value);
+    [[nodiscard]] TColor GetColor() const { return FColor; }
+    /// Also ends `ParentColor`.
+    void SetColor(TColor value);
+    [[nodiscard]] bool GetParentColor() const { return FParentColor; }
+    void SetParentColor(bool value);
+    /// The font, to be read or changed in place; changing it ends `ParentFont`.
+    [[nodiscard]] TFont& GetFont() const { return *FFont; }
+    void SetFont(const TFont& value);
+    [[nodiscard]] bool GetParentFont() const { return FParentFont; }
+    void SetParentFont(bool value);
+    /// The text: caption of most controls, content of editors. `Caption` and `Text` are the same.
+    [[nodiscard]] String GetText() const;
+    void SetText(const String& value);
+    [[nodiscard]] String GetCaption() const { return GetText(); }
+    void SetCaption(const String& value) { SetText(value); }
+    [[nodiscard]] TCursor GetCursor() const { return FCursor; }
+    void SetCursor(TCursor value);
+    [[nodiscard]] const String& GetHint() const { return FHint; }
+    void SetHint(const String& value);
+    [[nodiscard]] bool GetShowHint() const { return FShowHint; }
+    void SetShowHint(bool value);
+    [[nodiscard]] bool GetParentShowHint() const { return FParentShowHint; }
+    void SetParentShowHint(bool value);
+    [[nodiscard]] TContextMenu* GetPopupMenu() const { return FPopupMenu; }
+    void SetPopupMenu(TContextMenu* value);
+    [[nodiscard]] TBasicAction* GetAction() const;
+    void SetAction(TBasicAction* value);
+    void SetName(const String& name) override;
+
+    /// Style bits that a class sets in its constructor.
+    TControlStyle ControlStyle{csCaptureMouse, csClickEvents, csSetCaption, csDoubleClicks};
+    [[nodiscard]] TControlState GetControlState() const { return FControlState; }
+    [[nodiscard]] bool IsControlState(TControlStateFlag flag) const { return FControlState.Contains(flag); }
+    void SetControlState(TControlStateFlag flag, bool present) { FControlState.Put(flag, present); }
+
+    // --- painting
+    // -------------------------------------------------------------------------------------------
+    /// Marks the whole control for painting.
+    virtual void Invalidate();
+    /// Paints what is marked now.
+    virtual void Update();
+    /// Paints the whole control now. An opaque one paints straight to the screen, without the way round
+    /// through the message queue.
+    virtual void Repaint();
+    void Refresh() { Repaint(); }
+
+    // --- messages (ControlMessages.cpp)
+    // -----------------------------------------------------------------------
+    /// Sends a message to the control itself, window or not, and returns its result.
+    LRESULT Perform(UINT msg, WPARAM wParam = 0, LPARAM lParam = 0);
+    LRESULT Perform(UINT msg, WPARAM wParam, const void* lParam) {
+        return Perform(msg, wParam, reinterpret_cast<LPARAM>(lParam));
+    }
+    /// Replaces `WndProc` as the receiver of all messages while it is bound; the substitute passes on what it
+    /// does not want with `DefaultWindowProc`.
+    TWndMethod WindowProc;
+    /// What happens to a message while no substitute is bound.
+    void DefaultWindowProc(TMessage& message) { WndProc(message); }
+    /// Runs a message through the substitute or `WndProc`.
+    void SendTo(TMessage& message);
+
+    // --- mouse (ControlMouse.cpp)
+    // -----------------------------------------------------------------------------
+    [[nodiscard]] bool GetMouseCapture() const;
+    void SetMouseCapture(bool value);
+    /// True while the pointer is on the control, as far as its messages told.
+    [[nodiscard]] bool GetMouseInClient() const;
+    /// Ends what a press began: nothing becomes a click any more.
+    void CancelPress() { FControlState = FControlState - TControlState{csClicked, csLButtonDown}; }
+
+    // --- drag and drop: the switch of the control; the rest is in DragDrop.h
+    // -----------------------------------
+    [[nodiscard]] TDragMode GetDragMode() const { return FDragMode; }
+    virtual void SetDragMode(TDragMode value) { FDragMode = value; }
+    [[nodiscard]] TCursor GetDragCursor() const { return FDragCursor; }
+    void SetDragCursor(TCursor value) { FDragCursor = value; }
+
+    // --- events that every control can raise; classes publish those that fit
+    // ------------------------------------
+    TNotifyEvent OnClick;
+    TNotifyEvent OnDblClick;
+    TMouseEvent OnMouseDown;
+    TMouseMoveEvent OnMouseMove;
+    TMouseEvent OnMouseUp;
+    TNotifyEvent OnMouseEnter;
+    TNotifyEvent OnMouseLeave;
+    TMouseActivateEvent OnMouseActivate;
+    TMouseWheelEvent OnMouseWheel;
+    TMouseWheelUpDownEvent OnMouseWheelDown;
+    TMouseWheelUpDownEvent OnMouseWheelUp;
+    TNotifyEvent OnResize;
+    TCanResizeEvent OnCanResize;
+    TConstrainedResizeEvent OnConstrainedResize;
+    TContextPopupEvent OnContextPopup;
+
+    // --- rules for form files
+    // -----------------------------------------------------------------------------------
+    [[nodiscard]] bool IsColorStored() const { return !FParentColor; }
+    [[nodiscard]] bool IsFontStored() const { return !FParentFont; }
+    [[nodiscard]] bool IsShowHintStored() const { return !FParentShowHint; }
+    [[nodiscard]] bool IsCaptionStored() const;
+    [[nodiscard]] bool IsEnabledStored() const;
+    [[nodiscard]] bool IsVisibleStored() const;
+    [[nodiscard]] bool IsHintStored() const;
+    [[nodiscard]] bool IsOnClickStored() const;
+    [[nodiscard]] bool IsAnchorsStored() const;
+
+protected:
+    friend class TWinControl;
+    friend class TControlLayout;
+    friend class TControlActionLink;
+
+    /// Sees every message first: design state, mouse, hints; then `Dispatch`.
+    virtual void WndProc(TMessage& message);
+    /// The message map.
+    virtual void Dispatch(TMessage& message);
+    /// What the classes above left alone.
+    virtual void DefaultHandler(TMessage& message);
+
+    void Notification(TComponent* component, TOperation operation) override;
+    void Loaded() override;
+    void ChangeName(const String& name) override;
+    void BeforeDestruction() override;
+
+    // Reactions, to be overridden.
+    virtual void Click();
+    virtual void DblClick();
+    virtual void MouseDown(TMouseButton button, TShiftState shift, int x, int y);
+    virtual void MouseMove(TShiftState shift, int x, int y);
+    virtual void MouseUp(TMouseButton button, TShiftState shift, int x, int y);
+    virtual void MouseEnter();
+    virtual void MouseLeave();
+    /// A turn of the wheel; `mousePos` in screen pixels. True when it was used, otherwise the parent gets it.
+    virtual bool DoMouseWheel(TShiftState shift, int wheelDelta, TPoint mousePos);
+    virtual bool DoMouseWheelDown(TShiftState shift, TPoint mousePos);
+    virtual bool DoMouseWheelUp(TShiftState shift, TPoint mousePos);
+    virtual TMouseActivate MouseActivate(TMouseButton button, TShiftState shift, int x, int y, UINT hitTest);
+    virtual void DoContextPopup(TPoint mousePos, bool& handled);
+    /// Called after the size changed; raises `OnResize`.
+    virtual void Resize();
+    /// May change or refuse a new size (false); asks `OnCanResize`.
+    virtual bool CanResize(int& newWidth, int& newHeight);
+    /// For `AutoSize`: changes the size to the one the content needs; false refuses it.
+    virtual bool CanAutoSize(int& newWidth, int& newHeight);
+    virtual void ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth, int& maxHeight);
+    /// Lets the size follow the content when `AutoSize` is on.
+    virtual void AdjustSize();
+    /// Asks the parent to lay out its children.
+    virtual void RequestAlign();
+    virtual void SetClientSize(TSize value);
+    /// Takes over what changed in the linked action; with `checkDefaults` only into values still at their
+    /// default.
+    virtual void ActionChange(TObject* sender, bool checkDefaults);
+    [[nodiscard]] virtual std::unique_ptr<TBasicActionLink> CreateActionLink();
+    [[nodiscard]] TBasicActionLink* GetActionLink() const { return FActionLink.get(); }
+    /// Runs before a click's event: executes the linked action; true when that replaced the event.
+    void ExecuteActionOrClick();
+    /// The menu that a right click at the point opens.
+    [[nodiscard]] virtual TContextMenu* GetPopupMenuAt(TPoint) { return FPopupMenu; }
+
+    // Text as classes see it without a window's help.
+    [[nodiscard]] virtual String GetTextBuf() const { return FText; }
+    virtual void SetTextBuf(const String& value) { FText = value; }
+    /// The text that the control itself keeps.
+    [[nodiscard]] const String& StoredText() const { return FText; }
+
+    // Painting without a window: a device context of the parent's, moved and clipped to the control. The
+    // caller gives it back with ReleaseDC(window).
+    [[nodiscard]] virtual HDC GetDeviceContext(HWND& window);
+    /// Marks the area for painting, if it shows; `opaque`: nothing below it needs painting first.
+    void InvalidateControl(bool isVisible, bool isOpaque);
+    [[nodiscard]] bool IsOpaqueNow() const;
+
+    // Place in the parent's list.
+    virtual void SetZOrder(bool topmost);
+    void SetZOrderPosition(int position);
+    /// True when the form's designer took the message.
+    [[nodiscard]] bool IsDesignMessage(TMessage& message);
+    /// Raises an event that carries just the sender; false when the control is gone afterwards.
+    bool Raise(const TNotifyEvent& event);
+    virtual void VisibleChanging() {}
+
+    // Drag and drop (later work fills these in; kept here so that descendants can rely on the order).
+    virtual void BeginAutoDrag() {}
+    virtual void DragCanceled() {}
+
+private:
+    struct TAnchorBase {
+        TRect Bounds;  ///< As last set by anyone but the layout.
+        TSize Parent;  ///< The parent's client size then; what `Bounds` keeps its distance to.
+    };
+
+    void FontChanged(TObject* sender);
+    void ConstraintsChanged(TObject* sender);
+    void ParentFontChanged();
+    void ParentColorChanged();
+    void ParentShowHintChanged();
+    void UpdateAnchorBase();
+    void ApplyConstraints(int& width, int& height);
+    void StoreBounds(int left, int top, int width, int height);
+    void DoActionChange(TObject* sender);
+    void InvalidateFrame();
+    // Handlers of the message map.
+    void WmMouseDown(TMessage& message, TMouseButton button, bool isDouble);
+    void WmMouseUp(TMessage& message, TMouseButton button);
+    void WmMouseMove(TMessage& message);
+    void WmContextMenu(TMessage& message);
+    void WmMouseActivate(TMessage& message);
+    void CmMouseWheel(TMessage& message);
+    void CmMouseEnterLeave(TMessage& message, bool enter);
+    void DoMouseDown(TMessage& message, TMouseButton button, TShiftState shift);
+    void WmCancelMode();
+
+    TWinControl* FParent = nullptr;
+    int FLeft = 0;
+    int FTop = 0;
+    int FWidth = 0;
+    int FHeight = 0;
+    TAlign FAlign = alNone;
+    TAnchors FAnchors{akLeft, akTop};
+    TAnchorBase FAnchorBase;
+    TControlState FControlState;
+    TColor FColor;
+    TCursor FCursor = crDefault;
+    TCursor FDragCursor = crDrag;
+    TDragMode FDragMode = dmManual;
+    bool FVisible = true;
+    bool FEnabled = true;
+    bool FParentColor = true;
+    bool FParentFont = true;
+    bool FShowHint = false;
+    bool FParentShowHint = true;
+    bool FAutoSize = false;
+    bool FAutoSizing = false;
+    bool FTakingParentValue = false;
+    String FText;
+    String FHint;
+    std::unique_ptr<TFont> FFont;
+    std::unique_ptr<TSizeConstraints> FConstraints;
+    std::unique_ptr<TBasicActionLink> FActionLink;
+    TContextMenu* FPopupMenu = nullptr;
+};
+
+}  // namespace vcl
