@@ -46,7 +46,8 @@ public:
     /// Sets csDestroying here and in all owned components and calls `BeforeDestruction` of each, once.
     void Destroying();
 
-    [[nodiscard]] TComponent* GetOwner() const { return FOwner; }
+    [[nodiscard]] TComponent* GetOwner() const override { return FOwner; }
+    [[nodiscard]] String GetNamePath() const override { return FName; }
     [[nodiscard]] const String& GetName() const { return FName; }
     /// Renames the component. Raises EComponentError when the text is no identifier or a sibling has the
     /// name.

@@ -86,6 +86,28 @@ TPropertyValue ToPropertyValue(const V& value) {
 }
 
 [[noreturn]] void RaiseWrongPropertyType(const wchar_t* property);
+[[noreturn]] void RaisePropertyOutOfRange(const wchar_t* property, std::int64_t value);
+
+/// Least and greatest value of a type that form files write as a number.
+struct TLimits {
+    std::int64_t Minimum = 0;
+    std::int64_t Maximum = 0;
+};
+template <class V>
+TLimits LimitsOf() {
+    if constexpr (std::is_same_v<V, bool>)
+        return {0, 1};
+    else if constexpr (std::is_enum_v<V>)
+        return {0, static_cast<std::int64_t>(TEnumNames<V>::Names().size()) - 1};
+    else if constexpr (IsSet<V>::value)
+        return {0, (std::int64_t{1} << TEnumNames<typename V::Element>::Names().size()) - 1};
+    else if constexpr (std::is_integral_v<V> && sizeof(V) == 8)
+        return {std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max()};
+    else if constexpr (std::is_integral_v<V>)
+        return {std::numeric_limits<V>::min(), std::numeric_limits<V>::max()};
+    else
+        return {};
+}
 
 /// Takes the stored alternative or raises EConvertError with the property's name.
 template <class A>
@@ -95,12 +117,24 @@ const A& Expect(const TPropertyValue& value, const wchar_t* property) {
     return *a;
 }
 
+/// Takes the number or raises EConvertError when it is none or the type can't hold it. Numbers of 32 bits may
+/// come signed or unsigned: colours are written both ways.
+template <class V>
+std::int64_t ExpectNumber(const TPropertyValue& value, const wchar_t* property) {
+    TLimits limits = LimitsOf<V>();
+    if constexpr (std::is_integral_v<V> && sizeof(V) == 4)
+        limits = {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::uint32_t>::max()};
+    const std::int64_t number = Expect<std::int64_t>(value, property);
+    if (number < limits.Minimum || number > limits.Maximum) RaisePropertyOutOfRange(property, number);
+    return number;
+}
+
 template <class V>
 V FromPropertyValue(const TPropertyValue& value, const wchar_t* property) {
     using Kind = TPropertyKind;
     constexpr Kind kind = KindOf<V>();
     if constexpr (kind == Kind::Set) {
-        return V::FromBits(static_cast<std::uint32_t>(Expect<std::int64_t>(value, property)));
+        return V::FromBits(static_cast<std::uint32_t>(ExpectNumber<V>(value, property)));
     } else if constexpr (kind == Kind::Float) {
         if (const auto* n = std::get_if<std::int64_t>(&value)) return static_cast<V>(*n);
         return static_cast<V>(Expect<double>(value, property));
@@ -112,7 +146,7 @@ V FromPropertyValue(const TPropertyValue& value, const wchar_t* property) {
         if (object && !typed) RaiseWrongPropertyType(property);
         return typed;
     } else {
-        return static_cast<V>(Expect<std::int64_t>(value, property));
+        return static_cast<V>(ExpectNumber<V>(value, property));
     }
 }
 
@@ -121,19 +155,13 @@ template <class V>
 class TypedRow : public TPublishedProperty {
 public:
     explicit TypedRow(const wchar_t* name) : TPublishedProperty(name, KindOf<V>()) {
-        if constexpr (std::is_same_v<V, bool>) {
-            FMaximum = 1;
-        } else if constexpr (std::is_enum_v<V>) {
+        if constexpr (std::is_enum_v<V>)
             FElementNames = TEnumNames<V>::Names();
-            FMaximum = static_cast<std::int64_t>(FElementNames.size()) - 1;
-        } else if constexpr (IsSet<V>::value) {
+        else if constexpr (IsSet<V>::value)
             FElementNames = TEnumNames<typename V::Element>::Names();
-            FMaximum = (std::int64_t{1} << FElementNames.size()) - 1;
-        } else if constexpr (std::is_integral_v<V>) {
-            FMinimum = static_cast<std::int64_t>(std::numeric_limits<V>::min());
-            FMaximum = sizeof(V) == 8 ? std::numeric_limits<std::int64_t>::max()
-                                      : static_cast<std::int64_t>(std::numeric_limits<V>::max());
-        }
+        const TLimits limits = LimitsOf<V>();
+        FMinimum = limits.Minimum;
+        FMaximum = limits.Maximum;
     }
     [[nodiscard]] const TMetaClass* ObjectClass() const override {
         if constexpr (std::is_base_of_v<TPersistent, Pointee<V>>)
@@ -219,8 +247,11 @@ private:
 template <class T>
 class TClassDefinition : public TMetaClass {
 public:
-    TClassDefinition(const wchar_t* name, const TMetaClass& parent)
-        : TMetaClass(name, &parent, FactoryOf()) {}
+    TClassDefinition(const wchar_t* name, const TMetaClass& parent) : TMetaClass(name, &parent, FactoryOf()) {
+        if constexpr (!std::is_abstract_v<T> && std::is_base_of_v<TCollectionItem, T> &&
+                      std::is_constructible_v<T, TCollection*>)
+            FItemFactory = [](TCollection* collection) -> TCollectionItem* { return new T(collection); };
+    }
 
     /// A property that is always written.
     template <class Get, class Put>
@@ -281,7 +312,7 @@ public:
         FProperties.back()->FIdentifiers = identifiers;
         return std::move(*this);
     }
-    /// Narrows the limits of the last row.
+    /// Narrows the limits that designers and tests see; the setter is what enforces them.
     TClassDefinition&& Range(std::int64_t minimum, std::int64_t maximum) && {
         FProperties.back()->FMinimum = minimum;
         FProperties.back()->FMaximum = maximum;

@@ -86,11 +86,53 @@ public:
     [[nodiscard]] const wchar_t* ClassName() const override { return L"EConvertError"; }
 };
 
-/// A file can't be opened or read.
-class EFOpenError : public Exception {
+/// Base of the errors of streams.
+class EStreamError : public Exception {
 public:
     using Exception::Exception;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EStreamError"; }
+};
+
+/// A file can't be opened.
+class EFOpenError : public EStreamError {
+public:
+    using EStreamError::EStreamError;
     [[nodiscard]] const wchar_t* ClassName() const override { return L"EFOpenError"; }
+};
+
+/// A file can't be created.
+class EFCreateError : public EStreamError {
+public:
+    using EStreamError::EStreamError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EFCreateError"; }
+};
+
+/// A stream ended before all that was asked for could be read.
+class EReadError : public EStreamError {
+public:
+    using EStreamError::EStreamError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EReadError"; }
+};
+
+/// A stream can't take what was written.
+class EWriteError : public EStreamError {
+public:
+    using EStreamError::EStreamError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EWriteError"; }
+};
+
+/// Classes and form files do not fit together: a class name is taken, a property can't be read.
+class EFilerError : public EStreamError {
+public:
+    using EStreamError::EStreamError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EFilerError"; }
+};
+
+/// A class name of a form file is not registered.
+class EClassNotFound : public EFilerError {
+public:
+    using EFilerError::EFilerError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EClassNotFound"; }
 };
 
 /// A call of the operating system failed.

@@ -9,6 +9,8 @@
 
 namespace vcl {
 
+class TCollection;
+class TCollectionItem;
 class TComponent;
 class TObject;
 class TPublishedProperty;
@@ -24,6 +26,7 @@ struct TPublishedMethod {
 class TMetaClass {
 public:
     using Factory = TComponent* (*)(TComponent* owner);
+    using ItemFactory = TCollectionItem* (*)(TCollection* collection);
     using Properties = std::vector<std::unique_ptr<TPublishedProperty>>;
 
     TMetaClass(const wchar_t* name, const TMetaClass* parent, Factory factory);
@@ -37,6 +40,11 @@ public:
     [[nodiscard]] bool CanCreate() const { return FFactory != nullptr; }
     /// Makes a component of the class, owned by `owner`; null for a class that can't be made this way.
     [[nodiscard]] TComponent* Create(TComponent* owner) const { return FFactory ? FFactory(owner) : nullptr; }
+
+    /// Makes an item of the class in `collection`; null for a class that is no collection item or abstract.
+    [[nodiscard]] TCollectionItem* CreateItem(TCollection* collection) const {
+        return FItemFactory ? FItemFactory(collection) : nullptr;
+    }
 
     /// What this very class adds, in the order of its table.
     [[nodiscard]] const Properties& OwnProperties() const { return FProperties; }
@@ -53,6 +61,7 @@ protected:
     const wchar_t* FName;
     const TMetaClass* FParent;
     Factory FFactory;
+    ItemFactory FItemFactory = nullptr;
     Properties FProperties;
     std::vector<TPublishedMethod> FMethods;
 };

@@ -18,6 +18,11 @@ void TPersistent::AssignTo(TPersistent* dest) const {
     dest->RaiseAssignError(this);
 }
 
+String TPersistent::GetNamePath() const {
+    const TPersistent* owner = GetOwner();
+    return owner ? owner->GetNamePath() : ClassName();
+}
+
 void TPersistent::RaiseAssignError(const TPersistent* source) const {
     throw EConvertError(
         Format(L"Cannot assign a %s to a %s", source ? source->ClassName() : String(L"nil"), ClassName()));

@@ -15,6 +15,12 @@ public:
     /// neither knows how.
     virtual void Assign(const TPersistent* source);
 
+    /// The object that this one belongs to, or null.
+    [[nodiscard]] virtual TPersistent* GetOwner() const { return nullptr; }
+    /// How a designer names the object: from the name of the component that it belongs to, such as
+    /// "Bar.Items[2]".
+    [[nodiscard]] virtual String GetNamePath() const;
+
 protected:
     /// The other half of `Assign`: writes this object's contents into `dest`.
     virtual void AssignTo(TPersistent* dest) const;
