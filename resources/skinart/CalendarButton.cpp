@@ -12,27 +12,25 @@ void AddCalendarButton(Catalogue& skin) {
                           "kaaaaaaaaaaaak",  //
                           "kaaaaaaaaaaaak",  //
                           "kwwwwwwwwwwwwk",  //
-                          "kwwwwddwddwddk",  //
-                          "kwwwwddwddwddk",  //
+                          "kwwddwddwddwwk",  //
+                          "kwwddwddwddwwk",  //
                           "kwwwwwwwwwwwwk",  //
-                          "kddwddwooweewk",  //
-                          "kddwddwooweewk",  //
+                          "kwwddwoowddwwk",  //
+                          "kwwddwoowddwwk",  //
                           "kwwwwwwwwwwwwk",  //
                           "wkkkkkkkkkkkkw",  //
                           "wwwwwwwwwwwwww",  //
                           "wwwwwwwwwwwwww",  //
-                          "wwwwttttttwwww",  //
-                          "wwwwwttttwwwww",  //
-                          "wwwwwwttwwwwww"},
+                          "wwwwkkkkkkwwww",  //
+                          "wwwwwkkkkwwwww",  //
+                          "wwwwwwkkwwwwww"},
                          {{'w', palette::kWhite},
                           {'b', Grey(0x12)},
                           {'k', Grey(0x62)},
                           {'A', Mix(palette::kAccent, palette::kWhite, 1, 4)},
                           {'a', palette::kAccent},
-                          {'d', Grey(0x93)},
-                          {'e', Grey(0x93)},
-                          {'o', palette::kAccent},
-                          {'t', palette::kBlack}}));
+                          {'d', Grey(0xA4)},
+                          {'o', palette::kAccent}}));
 }
 
 }  // namespace skinart

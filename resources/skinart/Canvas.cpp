@@ -1,6 +1,8 @@
 #include "resources/skinart/Canvas.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdlib>
 #include <stdexcept>
 #include <utility>
 
@@ -24,11 +26,9 @@ Paint Vertical(std::vector<Stop> stops) {
 
 Paint VerticalEase(int fromRow, Rgb from, int toRow, Rgb to) {
     return [=](int, int y) {
-        const int distance = (toRow > fromRow ? toRow : fromRow) - (toRow > fromRow ? fromRow : toRow);
-        const int gone = toRow > fromRow ? y - fromRow : fromRow - y;
-        if (gone <= 0) return from;
-        if (gone >= distance) return to;
-        return Mix(from, to, gone * gone, distance * distance);
+        const int length = std::abs(toRow - fromRow);
+        const int gone = std::clamp(toRow > fromRow ? y - fromRow : fromRow - y, 0, length);
+        return Mix(from, to, gone * gone * (2 * length - gone), length * length * length);
     };
 }
 

@@ -21,8 +21,8 @@ struct Stop {
 /// colour.
 Paint Vertical(std::vector<Stop> stops);
 
-/// A paint that runs from `from` at row `fromRow` to `to` at row `toRow` along a parabola: gently at
-/// `fromRow`, ever faster towards `toRow`. `fromRow` may lie below `toRow`.
+/// A paint that runs from `from` at row `fromRow` to `to` at row `toRow`, which may lie above it. It leaves
+/// `from` without an edge and slows down again a little before `to`.
 Paint VerticalEase(int fromRow, Rgb from, int toRow, Rgb to);
 
 /// A surface for anti-aliased shapes. It starts as the colour that the finished picture will lie on, so that

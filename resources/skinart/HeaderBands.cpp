@@ -26,9 +26,9 @@ void AddBands(Catalogue& skin, const std::string& prefix, const Paint& paint) {
 Picture DrawSortArrow(bool up) {
     Canvas canvas(6, 6, Solid(palette::kHeader));
     const auto row = [up](int y) { return up ? y : Px(6) - y; };
-    const Point tip{Px(3), row(Px(0.5))};
-    const Point left{0, row(Px(5.5))};
-    const Point right{Px(6), row(Px(5.5))};
+    const Point tip{Px(3), row(Px(-0.5))};
+    const Point left{0, row(Px(5))};
+    const Point right{Px(6), row(Px(5))};
     canvas.Fill(up ? ConvexPolygon({tip, right, left}) : ConvexPolygon({tip, left, right}),
                 Solid(Grey(0xF4)));
     return canvas.Finish();

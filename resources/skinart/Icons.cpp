@@ -41,7 +41,7 @@ IconSheet& Lines(IconSheet& sheet, int left, int top, int width) {
 
 Picture DrawButton() {
     IconSheet sheet;
-    Button(sheet).Pattern(7, 9,
+    Button(sheet).Pattern(7, 10,
                           {".WWW..W..W",  //
                            "W...W.W.W.",  //
                            "W...W.WW..",  //
@@ -208,9 +208,12 @@ Picture DrawExplorerBar() {
 
 Picture DrawGroupBox() {
     IconSheet sheet;
-    sheet.RoundFrame(1, 5, 22, 17, kGrey, kWhite).Fill(4, 5, 10, 1, kWhite);
-    sheet.Pattern(5, 3, {"BB.BB.BB", "BB.BB.BB", "BB.BB.BB", "BB.BB.BB"});
-    sheet.Fill(5, 11, 13, 1, kSilver).Fill(5, 14, 10, 1, kSilver).Fill(5, 17, 12, 1, kSilver);
+    sheet.RoundFrame(1, 5, 22, 17, kGrey, kWhite)
+        .Fill(3, 3, 13, 7, kWhite)
+        .Fill(3, 3, 13, 2, palette::kTransparent);
+    Letters(sheet, 4, 2);
+    sheet.Frame(4, 12, 3, 3, kGrey).Fill(9, 13, 10, 1, kGrey);
+    sheet.Frame(4, 17, 3, 3, kGrey).Fill(9, 18, 8, 1, kGrey);
     return sheet.Finish();
 }
 
@@ -240,22 +243,31 @@ Picture DrawSimpleTabControl() {
 
 Picture DrawTabControl() {
     IconSheet sheet;
-    Tab(sheet, 14, 5, 9, 11, kGrey, kSilver);
+    Tab(sheet, 15, 5, 8, 11, kGrey, kSilver);
     sheet.RoundFrame(1, 10, 22, 11, kGrey, kWhite);
-    Tab(sheet, 1, 3, 14, 11, kBlack, kBlack).Fill(1, 10, 22, 1, kBlack);
-    sheet.Fill(4, 5, 1, 4, kAqua).Fill(6, 7, 3, 1, kWhite).Pattern(10, 5, {"W..W", ".WW.", ".WW.", "W..W"});
+    Tab(sheet, 1, 2, 15, 11, kBlack, kBlack).Fill(1, 10, 22, 1, kBlack);
+    sheet.Fill(3, 7, 5, 1, kWhite).Pattern(10, 5, {"W...W", ".W.W.", "..W..", ".W.W.", "W...W"});
     Lines(sheet, 4, 13, 12);
     return sheet.Finish();
 }
 
 Picture DrawToolbar() {
     IconSheet sheet;
-    sheet.RoundFrame(1, 6, 22, 12, kGrey, kSilver).Fill(2, 7, 20, 3, kWhite);
-    sheet.Frame(3, 8, 8, 8, kBlue).Fill(4, 9, 6, 6, kAqua);
-    sheet.Pattern(5, 10, {".KK.", "KKKK", "KKKK", ".KK."});
-    sheet.Fill(13, 10, 4, 4, kOlive).Fill(13, 10, 4, 1, kYellow);
-    sheet.Fill(18, 8, 1, 8, kGrey);
-    sheet.Pattern(19, 9, {"K..", ".K.", "..K", ".K.", "K.."});
+    sheet.RoundFrame(1, 6, 22, 12, kGrey, kSilver).Fill(2, 7, 20, 1, kWhite);
+    sheet.Frame(3, 8, 8, 8, kBlue).Fill(4, 9, 6, 6, kWhite);
+    sheet.Pattern(5, 9,
+                  {"KKK.",  //
+                   "KWKK",  //
+                   "KWWK",  //
+                   "KWWK",  //
+                   "KKKK"});
+    sheet.Pattern(12, 9,
+                  {".YY...",  //
+                   "YYYYYO",  //
+                   "YOOOOO",  //
+                   "YOOOO.",  //
+                   "OOOO.."});
+    sheet.Fill(18, 7, 1, 10, kGrey).Pattern(19, 9, {"K..", ".K.", "..K", ".K.", "K.."});
     return sheet.Finish();
 }
 

@@ -44,14 +44,15 @@ struct TabLook {
     Rgb Fill;
     Rgb Text;
     std::string Signs;
+    int Margin;
 };
 
 void DrawTab(Picture& scene, const Catalogue& skin, const TabLook& look, int left, int width, int frame) {
     const int height = scene.Height();
     scene.DrawTransparent(Compose(skin.FindFrame(look.Prefix), width, height, look.Fill), left, 0);
     const std::string number = std::to_string(frame);
-    scene.Draw(skin.Find("TABANIMATION" + number + look.Signs), left + 5, 3);
-    const int right = left + width - 5;
+    scene.Draw(skin.Find("TABANIMATION" + number + look.Signs), left + look.Margin, 3);
+    const int right = left + width - look.Margin;
     scene.DrawTransparent(skin.Find("TABCLOSE" + look.Signs), right - 6, 4);
     scene.DrawTransparent(skin.Find((frame == 1 ? "TABUNLOCK" : "TABLOCK") + look.Signs), right - 6, 11);
     Caption(scene, left, 0, width, height, "CAPTION", look.Text);
@@ -80,27 +81,32 @@ Picture ChevronStrip(const Catalogue& skin) {
 
 Picture TabScene(const Catalogue& skin, int height) {
     Picture scene(330, height, palette::kPage);
-    const TabLook resting{"TABDEFAULT", palette::kTab, Grey(0x7E), "DEFAULT"};
-    const TabLook hovered{"TABHOVERED", palette::kTab, Grey(0x7E), "DEFAULT"};
-    const TabLook selected{"TABPRESSED", palette::kBlack, palette::kWhite, "PRESSED"};
+    const TabLook resting{"TABDEFAULT", palette::kTab, Grey(0x7E), "DEFAULT", 5};
+    const TabLook hovered{"TABHOVERED", palette::kTab, Grey(0x7E), "DEFAULT", 5};
+    const TabLook selected{"TABPRESSED", palette::kBlack, palette::kWhite, "PRESSED", 5};
     DrawTab(scene, skin, resting, 0, 68, 0);
     DrawTab(scene, skin, selected, 68, 68, 1);
     DrawTab(scene, skin, hovered, 136, 68, 2);
     DrawTab(scene, skin, resting, 204, 68, 1);
+    scene.Draw(ChevronStrip(skin), 278, 0);
+    return scene;
+}
+
+Picture DragScene(const Catalogue& skin, int height) {
+    Picture scene = TabScene(skin, height);
     DrawDropMarker(scene, skin, 68, true);
     DrawDropMarker(scene, skin, 204, false);
-    scene.Draw(ChevronStrip(skin), 278, 0);
     return scene;
 }
 
 Picture WhiteTabScene(const Catalogue& skin, int height) {
     Picture scene(330, height, palette::kPage);
     scene.Stretch(Picture(1, 1, palette::kFrameLine), 0, height - 1, 330, 1);
-    const TabLook resting{"WHITETABDEFAULT", palette::kWhite, palette::kFrameLine, "DEFAULT"};
-    const TabLook selected{"WHITETABPRESSED", palette::kWhite, palette::kBlack, "PRESSED"};
-    DrawTab(scene, skin, resting, 0, 80, 0);
-    DrawTab(scene, skin, selected, 80, 80, 1);
-    DrawTab(scene, skin, resting, 160, 80, 2);
+    const TabLook resting{"WHITETABDEFAULT", palette::kWhite, palette::kFrameLine, "DEFAULT", 25};
+    const TabLook selected{"WHITETABPRESSED", palette::kWhite, palette::kBlack, "PRESSED", 25};
+    DrawTab(scene, skin, resting, 0, 105, 0);
+    DrawTab(scene, skin, selected, 105, 105, 1);
+    DrawTab(scene, skin, resting, 210, 105, 2);
     return scene;
 }
 
@@ -181,6 +187,7 @@ std::vector<NamedPicture> DrawScenes(const Catalogue& skin) {
             {"TABS 21", TabScene(skin, 21)},
             {"TABS 27", TabScene(skin, 27)},
             {"TABS 34", TabScene(skin, 34)},
+            {"DROP MARKERS 27", DragScene(skin, 27)},
             {"WHITE TABS 21", WhiteTabScene(skin, 21)},
             {"WHITE TABS 27", WhiteTabScene(skin, 27)},
             {"TOOLBAR", ToolbarScene(skin)},

@@ -66,14 +66,6 @@ Shape Stroke(std::vector<Point> points, int thickness) {
     };
 }
 
-Shape Intersection(Shape a, Shape b) {
-    return [a = std::move(a), b = std::move(b)](Point p) { return a(p) && b(p); };
-}
-
-Shape Difference(Shape a, Shape b) {
-    return [a = std::move(a), b = std::move(b)](Point p) { return a(p) && !b(p); };
-}
-
 int Coverage(const Shape& shape, int x, int y) {
     int covered = 0;
     for (int row = 1; row < kUnit; row += 2) {

@@ -10,7 +10,9 @@ namespace skinart {
 inline constexpr int kUnit = 32;
 
 /// Whole pixels to units.
-constexpr int Px(int pixels) { return pixels * kUnit; }
+constexpr int Px(int pixels) {
+    return pixels * kUnit;
+}
 
 /// Pixels to units; `pixels` must be a multiple of 1/32.
 consteval int Px(double pixels) {
@@ -59,12 +61,6 @@ Shape ConvexPolygon(std::vector<Point> corners);
 
 /// A line through `points`, `thickness` units wide, with round ends and joins.
 Shape Stroke(std::vector<Point> points, int thickness);
-
-/// What lies in both shapes.
-Shape Intersection(Shape a, Shape b);
-
-/// What lies in `a` and not in `b`.
-Shape Difference(Shape a, Shape b);
 
 /// How much of pixel (`x`, `y`) the shape covers, from 0 to `kFullCoverage`, counted on a 16 x 16 grid.
 int Coverage(const Shape& shape, int x, int y);

@@ -144,7 +144,7 @@ void AddTabs(Catalogue& skin) {
     skin.AddFrame("WHITETABDEFAULT", CutFrame(DrawWhiteResting(), kSizes, palette::kWhite));
     skin.AddFrame("WHITETABPRESSED", CutFrame(DrawWhiteSelected(), kSizes, palette::kWhite));
     AddLamps(skin, "DEFAULT", resting, {0xB4, 0xB7, 0xC0}, palette::kAccent);
-    AddLamps(skin, "PRESSED", selected, Grey(0x4C), {0x3E, 0xB0, 0xF8});
+    AddLamps(skin, "PRESSED", selected, Grey(0x70), {0x3E, 0xB0, 0xF8});
 }
 
 }  // namespace skinart
