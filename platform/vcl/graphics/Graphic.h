@@ -1,0 +1,65 @@
+#pragma once
+
+#include <cstddef>
+#include <iosfwd>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "platform/vcl/core/Events.h"
+#include "platform/vcl/core/Geometry.h"
+#include "platform/vcl/core/Persistent.h"
+
+namespace vcl {
+
+class TCanvas;
+
+/// A picture of some kind: a bitmap, an icon, a JPEG.
+class TGraphic : public TPersistent {
+public:
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+
+    /// Raised after each change of the picture.
+    TNotifyEvent OnChange;
+
+    /// Draws the picture into the rectangle, scaled to it.
+    virtual void Draw(TCanvas& canvas, const TRect& rect) const = 0;
+    /// True when there is no pixel.
+    [[nodiscard]] virtual bool GetEmpty() const = 0;
+    /// The size in pixels. Setting it raises EInvalidGraphicOperation where the kind has a fixed size.
+    [[nodiscard]] virtual int GetWidth() const = 0;
+    [[nodiscard]] virtual int GetHeight() const = 0;
+    virtual void SetWidth(int value) = 0;
+    virtual void SetHeight(int value) = 0;
+    /// Whether drawing leaves out the transparent part.
+    [[nodiscard]] virtual bool GetTransparent() const { return FTransparent; }
+    virtual void SetTransparent(bool value);
+    /// True when the picture was changed since it was made or loaded, or the mark was cleared.
+    [[nodiscard]] bool GetModified() const { return FModified; }
+    void SetModified(bool value);
+    /// An empty picture of the same kind.
+    [[nodiscard]] virtual std::unique_ptr<TGraphic> NewOfKind() const = 0;
+
+    /// Reads the picture from the bytes of a file of its kind. Raises EInvalidGraphic when they are of
+    /// another kind or damaged; the picture then stays as it was.
+    virtual void LoadFromBytes(std::span<const std::byte> bytes) = 0;
+    /// The bytes of a file of its kind.
+    [[nodiscard]] virtual std::vector<std::byte> SaveToBytes() const = 0;
+    /// Reads all that is left in the stream.
+    void LoadFromStream(std::istream& stream);
+    void SaveToStream(std::ostream& stream) const;
+    /// Raises EFOpenError with the name when the file can't be read or written.
+    void LoadFromFile(const String& fileName);
+    void SaveToFile(const String& fileName) const;
+
+    /// Tells that the picture changed: marks it modified and raises `OnChange`. For those that wrote to the
+    /// picture's memory.
+    virtual void Changed();
+
+private:
+    bool FTransparent = false;
+    bool FModified = false;
+};
+
+}  // namespace vcl
