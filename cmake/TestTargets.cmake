@@ -46,6 +46,12 @@ function(house_tests name)
   house_executable(${name} PCH test_pch USES QV7Skin velmora tms flatstyle vcl test_support GTest::gtest
     OPTIONS ${TEST_OPTIONS} ${ARGN})
   if(TARGET ${name} AND NOT QV7_COMPILE_ONLY)
+    # Resources that tests read back stand beside them.
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS")
+    foreach(folder IN LISTS arg_FOLDERS)
+      file(GLOB_RECURSE scripts CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.rc")
+      target_sources(${name} PRIVATE ${scripts})
+    endforeach()
     add_test(NAME ${name} COMMAND ${name})
   endif()
 endfunction()

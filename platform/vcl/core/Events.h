@@ -19,28 +19,31 @@ public:
     /// True when something is bound.
     [[nodiscard]] bool IsAssigned() const { return FThunk != nullptr; }
     explicit operator bool() const { return IsAssigned(); }
-    /// The object half of the event: the object whose method is called, or null for a free callable.
+    /// The object half of the event: the object whose method is called, or null for a free callable. It is
+    /// the address of the whole object, whichever of its bases the method belongs to.
     [[nodiscard]] const void* ObjectPart() const { return FObject; }
     void Clear() {
         FThunk = nullptr;
         FObject = nullptr;
         FFree.reset();
-        std::memset(FMethod, 0, sizeof FMethod);
+        std::memset(FBound, 0, sizeof FBound);
     }
-    /// Same object and same method, or the same copy of a free callable.
+    /// Same object and same method, or the same copy of a free callable. (The thunk is left out: each module
+    /// has its own copy of it.)
     friend bool operator==(const TEventBase& a, const TEventBase& b) {
-        return a.FThunk == b.FThunk && a.FObject == b.FObject && a.FFree == b.FFree &&
-               std::memcmp(a.FMethod, b.FMethod, sizeof a.FMethod) == 0;
+        return a.FObject == b.FObject && a.FFree == b.FFree &&
+               std::memcmp(a.FBound, b.FBound, sizeof a.FBound) == 0;
     }
 
 protected:
     using AnyThunk = void (*)();
-    static constexpr std::size_t MethodSize = 4 * sizeof(void*);
+    /// Room for a pointer to the base that the method belongs to and for the longest pointer to a method.
+    static constexpr std::size_t BoundSize = 4 * sizeof(void*);
 
     TEventBase() = default;
     AnyThunk FThunk = nullptr;
     void* FObject = nullptr;
-    alignas(void*) unsigned char FMethod[MethodSize] = {};
+    alignas(void*) unsigned char FBound[BoundSize] = {};
     std::shared_ptr<void> FFree;
 };
 
@@ -59,17 +62,25 @@ public:
     /// Binds a method of an object: `Button->OnClick = {this, &TMainForm::ButtonClick};`
     template <class Object, class Owner>
     requires std::is_base_of_v<Owner, Object> TEvent(Object* object, void (Owner::*method)(Args...)) {
-        static_assert(sizeof method <= MethodSize);
+        static_assert(sizeof(TBound<Owner>) <= BoundSize);
         if (!object) return;
-        FObject = static_cast<Owner*>(object);
-        std::memcpy(FMethod, &method, sizeof method);
+        if constexpr (std::is_polymorphic_v<Object>)
+            FObject = dynamic_cast<void*>(object);
+        else
+            FObject = object;
+        const TBound<Owner> bound{object, method};
+        std::memcpy(FBound, &bound, sizeof bound);
         FThunk = reinterpret_cast<AnyThunk>(&CallMethod<Owner>);
     }
 
-    /// Binds a lambda or function object; it is copied to the heap once, here.
+    /// Binds a function, lambda or function object; it is copied to the heap once, here. A null function or
+    /// an empty std::function binds nothing.
     template <class Callable>
     requires(std::is_invocable_v<Callable&, Args...> &&
              !std::is_base_of_v<TEventBase, std::decay_t<Callable>>) TEvent(Callable callable) {
+        if constexpr (std::is_pointer_v<Callable> || requires { callable.target_type(); }) {
+            if (!callable) return;
+        }
         FFree = std::make_shared<std::decay_t<Callable>>(std::move(callable));
         FThunk = reinterpret_cast<AnyThunk>(&CallFree<std::decay_t<Callable>>);
     }
@@ -78,21 +89,26 @@ public:
     void operator()(Args... args) const {
         if (!FThunk) return;
         const TEvent copy = *this;
-        reinterpret_cast<Thunk>(copy.FThunk)(copy, static_cast<Args>(args)...);
+        reinterpret_cast<Thunk>(copy.FThunk)(copy, std::forward<Args>(args)...);
     }
 
 private:
     using Thunk = void (*)(const TEvent&, Args...);
 
     template <class Owner>
+    struct TBound {
+        Owner* Object;
+        void (Owner::*Method)(Args...);
+    };
+    template <class Owner>
     static void CallMethod(const TEvent& self, Args... args) {
-        void (Owner::*method)(Args...);
-        std::memcpy(&method, self.FMethod, sizeof method);
-        (static_cast<Owner*>(self.FObject)->*method)(static_cast<Args>(args)...);
+        TBound<Owner> bound;
+        std::memcpy(&bound, self.FBound, sizeof bound);
+        (bound.Object->*bound.Method)(std::forward<Args>(args)...);
     }
     template <class Callable>
     static void CallFree(const TEvent& self, Args... args) {
-        (*static_cast<Callable*>(self.FFree.get()))(static_cast<Args>(args)...);
+        (*static_cast<Callable*>(self.FFree.get()))(std::forward<Args>(args)...);
     }
 };
 

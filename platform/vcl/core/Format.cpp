@@ -1,6 +1,7 @@
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/core/Strings.h"
 
+#include <algorithm>
 #include <cwchar>
 
 namespace vcl {
@@ -25,18 +26,25 @@ private:
     /// One place, from its percent sign to its letter.
     void Place() {
         const std::size_t start = FAt++;
-        const std::size_t flags = FFormat.find_first_not_of(L"-+ #0123456789.", FAt);
-        const std::size_t letterAt = FFormat.find_first_not_of(L"hljztIw", flags);
-        if (flags == StringView::npos || letterAt == StringView::npos) Misfit(FFormat.substr(start));
-        const String options(FFormat.substr(FAt, flags - FAt));
-        FAt = letterAt + 1;
-        const wchar_t letter = FFormat[letterAt];
+        const StringView options = Take(L"-+ #0123456789.");
+        // Widths of C types stand in some texts; each argument knows its own.
+        if (FFormat.substr(FAt).starts_with(L"I64")) FAt += 3;
+        Take(L"hljztw");
+        if (FAt >= FFormat.size()) Misfit(FFormat.substr(start));
+        const wchar_t letter = FFormat[FAt++];
         if (letter == L'%') {
             FResult += L'%';
             return;
         }
-        if (FNext >= FArgs.size()) Misfit(FFormat.substr(start, FAt - start));
-        if (!Append(options, letter, FArgs[FNext++])) Misfit(FFormat.substr(start, FAt - start));
+        if (FNext >= FArgs.size() || !Append(String(options), letter, FArgs[FNext++]))
+            Misfit(FFormat.substr(start, FAt - start));
+    }
+
+    /// Moves on behind what consists of these characters, and returns it.
+    StringView Take(StringView characters) {
+        const std::size_t start = FAt;
+        FAt = std::min(FFormat.find_first_not_of(characters, FAt), FFormat.size());
+        return FFormat.substr(start, FAt - start);
     }
 
     bool Append(const String& options, wchar_t letter, const TFormatArg& arg) {
