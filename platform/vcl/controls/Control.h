@@ -8,7 +8,7 @@
 #include "platform/vcl/controls/SizeConstraints.h"
 #include "platform/vcl/core/Component.h"
 #include "platform/vcl/core/LifeGuard.h"
-#include "platform/vcl/graphics/Colors.h"
+#include "platform/vcl/graphics/Color.h"
 
 namespace vcl {
 
