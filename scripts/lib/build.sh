@@ -1,0 +1,42 @@
+# shellcheck shell=bash
+# Configuring and compiling. PRESET in the environment picks another preset than mingw.
+
+PRESET=${PRESET:-mingw}
+BIN=build/$PRESET/bin
+
+# build TARGET...: compiles the named targets; "all" is one.
+build() {
+    [ -f "build/$PRESET/build.ninja" ] || configure
+    say "Building (build/$PRESET)"
+    if [ -t 1 ]; then
+        cmake --build "build/$PRESET" -j "$(nproc)" --target "$@"
+    else
+        build_quietly "$@"
+    fi
+}
+
+configure() {
+    say "Configuring (build/$PRESET)"
+    local log=build/configure-$PRESET.log
+    mkdir -p build
+    cmake --preset "$PRESET" >"$log" 2>&1 </dev/null || {
+        cat "$log" >&2
+        fail "Configuring failed."
+    }
+}
+
+# Without a terminal the compiler's messages are wanted, not each step.
+build_quietly() {
+    local log=build/build-$PRESET.log
+    cmake --build "build/$PRESET" -j "$(nproc)" --target "$@" >"$log" 2>&1 </dev/null || {
+        grep -vE '^\[[0-9]+/[0-9]+\] (Building|Linking|Re-checking|Re-running)' "$log" >&2
+        fail "The build failed; $log has all of it."
+    }
+}
+
+# need_program NAME: builds everything and ends if the tree has no program of that name.
+need_program() {
+    local name=$1
+    build all
+    [ -f "$BIN/$name.exe" ] || fail "This tree has no program '$name'."
+}

@@ -1,0 +1,128 @@
+# shellcheck shell=bash
+# The commands of ./run. A command whose program this tree does not have is not offered.
+
+COMMANDS="gallery test bench shots designer dfm soak lint build help"
+
+is_command() {
+    local command
+    for command in $COMMANDS; do
+        [ "$command" != "$1" ] || return 0
+    done
+    return 1
+}
+
+command_help() {
+    cat <<TEXT
+./run gallery         shows every control; without a display it leaves pictures in build/shots
+./run test [filter]   runs the tests, or those whose name contains the filter (* and ? as wildcards)
+./run bench           measures what things cost; prints a table and writes build/bench.json
+./run shots [folder]  draws every page of the gallery to a PNG in the folder (build/shots)
+./run designer        opens the form designer
+./run dfm ...         converts and checks form files
+./run soak [filter]   runs the tests that take long
+./run lint [check]    checks the house rules
+./run build [target]  compiles everything, or one target
+./run help            shows this
+
+PRESET=mingw-static (or mingw-ubsan, clang) in front picks another build than mingw.
+TEXT
+}
+
+command_build() {
+    need build
+    build "${@:-all}"
+}
+
+command_test() { run_tests "$@"; }
+
+command_soak() { run_tests --soak "$@"; }
+
+run_tests() {
+    need build wine
+    build all
+    wine_ready null
+    scripts/testing/run_tests.py --bin "$BIN" "$@" &
+    wait $!
+}
+
+command_bench() {
+    need build wine
+    need_program bench
+    wine_ready null
+    WINE_TIMEOUT=1800 wine_run bench "$@"
+}
+
+command_shots() {
+    need build wine
+    need_program gallery
+    draw_pages "${1:-build/shots}"
+}
+
+draw_pages() {
+    local folder=$1
+    wine_ready null
+    rm -rf "$folder"
+    mkdir -p "$folder"
+    say "Drawing every page of the gallery"
+    wine_run gallery --shots "$folder" || fail "The gallery ended with code $?"
+    name_pictures "$folder"
+}
+
+name_pictures() {
+    local picture count=0
+    for picture in "$1"/*.png; do
+        [ -f "$picture" ] || continue
+        echo "$picture"
+        count=$((count + 1))
+    done
+    [ "$count" -gt 0 ] || fail "No picture was drawn."
+}
+
+command_gallery() { show_program gallery "$@"; }
+
+command_designer() { show_program designer "$@"; }
+
+command_dfm() {
+    need build wine
+    need_program dfm
+    wine_ready null
+    wine_run dfm "$@"
+}
+
+# On a display: real windows until they are closed. Without one: pictures.
+show_program() {
+    local program=$1
+    shift
+    if [ -n "${DISPLAY:-}" ]; then need build wine; else need build wine display; fi
+    if display_answers; then
+        need_program "$program"
+        wine_ready x11
+        match_window_manager
+        say "Starting $program"
+        WINE_TIMEOUT=0 wine_run "$program" "$@"
+    else
+        picture_screen "$program" "build/$program-screen.png" "$@"
+        [ "$program" != gallery ] || draw_pages build/shots
+    fi
+}
+
+# picture_screen PROGRAM FILE ARGUMENT...: starts the program on an X server of our own and saves the screen.
+picture_screen() {
+    local program=$1 file=$2 pid
+    shift 2
+    say "There is no display, so $program leaves pictures"
+    need display
+    need_program "$program"
+    start_display
+    wine_ready x11
+    match_window_manager
+    say "Starting $program"
+    scripts/wine-run "$BIN/$program.exe" "$@" &
+    pid=$!
+    screen_picture "$file" "$pid"
+    kill "$pid" 2>/dev/null || true
+    wait "$pid" 2>/dev/null || true
+    stop_wine
+    stop_display
+    echo "$file"
+}
