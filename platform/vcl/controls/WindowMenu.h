@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/vcl/core/Component.h"
+#include "platform/vcl/core/WindowsApi.h"
+
+namespace vcl {
+
+struct TMessage;
+
+/// What a form needs of its main menu; `menus/` derives TMainMenu from it.
+class TWindowMenu : public TComponent {
+public:
+    using TComponent::TComponent;
+
+    /// The system's menu to show in the window's bar; 0 while it is empty. Owned by this object, also while a
+    /// window shows it.
+    [[nodiscard]] virtual HMENU GetMenuHandle() = 0;
+    /// Tells in which window the menu stands (0: in none), so that changes can redraw its bar.
+    virtual void SetWindowHandle(HWND window) = 0;
+    /// Runs the item whose short cut the key message is; false when there is none.
+    virtual bool IsShortCut(TMessage& message) = 0;
+    /// Answers a menu message of the window (WM_COMMAND, WM_INITMENUPOPUP, WM_MEASUREITEM ...); false leaves
+    /// it to the window.
+    virtual bool HandleMenuMessage(TMessage& message) = 0;
+};
+
+}  // namespace vcl
