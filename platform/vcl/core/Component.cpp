@@ -135,9 +135,16 @@ void TComponent::RemoveFreeNotification(TComponent* component) {
 
 void TComponent::Notification(TComponent* component, TOperation operation) {
     if (operation == opRemove) RemoveFreeNotification(component);
-    // From the end, looking again each time: a component may free others when it hears this.
-    for (std::size_t i = FComponents.size(); i > 0; i = std::min(i - 1, FComponents.size()))
-        FComponents[i - 1]->Notification(component, operation);
+    for (std::size_t i = FComponents.size(); i > 0;) {
+        TComponent* listener = FComponents[i - 1];
+        listener->Notification(component, operation);
+        // It may have freed others, so look where it stands now.
+        const auto behind =
+            FComponents.begin() + static_cast<std::ptrdiff_t>(std::min(i, FComponents.size()));
+        const auto place = std::find(std::reverse_iterator(behind), FComponents.rend(), listener);
+        i = place != FComponents.rend() ? static_cast<std::size_t>(FComponents.rend() - place) - 1
+                                        : std::min(i - 1, FComponents.size());
+    }
 }
 
 void TComponent::SetDesigning(bool value, bool setChildren) {

@@ -40,7 +40,7 @@ void TStringList::PutObject(int index, TObject* object) {
 void TStringList::InsertObject(int index, const String& text, TObject* object) {
     CheckUnsorted();
     CheckIndex(index, GetCount() + 1);
-    Insert(index, {text, object});
+    InsertItem(index, {text, object});
 }
 
 int TStringList::AddObject(const String& text, TObject* object) {
@@ -49,11 +49,11 @@ int TStringList::AddObject(const String& text, TObject* object) {
         if (Duplicates == dupIgnore) return index;
         if (Duplicates == dupError) throw EStringListError(L"String list does not allow duplicates");
     }
-    Insert(index, {text, object});
+    InsertItem(index, {text, object});
     return index;
 }
 
-void TStringList::Insert(int index, TItem item) {
+void TStringList::InsertItem(int index, TItem item) {
     Changing();
     FItems.insert(FItems.begin() + index, std::move(item));
     Changed();

@@ -98,7 +98,7 @@ private:
     };
     void CheckIndex(int index, int limit) const;
     void CheckUnsorted() const;
-    void Insert(int index, TItem item);
+    void InsertItem(int index, TItem item);
     /// The place of the text in a sorted list, or where it would go.
     [[nodiscard]] bool Find(StringView text, int& index) const;
     std::vector<TItem> FItems;
