@@ -295,6 +295,12 @@ public:
         return std::move(*this);
     }
 
+    /// Adds the rows of a group that several classes share: `rows` takes the table and returns it.
+    template <class Rows>
+    TClassDefinition&& With(Rows rows) && {
+        return rows(std::move(*this));
+    }
+
     /// The rule whether a form file writes the last row at all.
     TClassDefinition&& Stored(bool (T::*rule)() const) && {
         FProperties.back()->FStored = [rule](const TObject& object) {
