@@ -1,12 +1,13 @@
 #pragma once
 
-// What nearly every source needs: the Windows API and the standard library. Sources still include what they use;
-// this only makes compiling them faster.
+// What nearly every source needs: the Windows API and the standard library. Sources still include what they
+// use; this only makes compiling them faster.
 
 #include "platform/vcl/core/WindowsApi.h"
-#include <windowsx.h>
+
 #include <commctrl.h>
 #include <objbase.h>
+#include <windowsx.h>
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,8 @@
 # shellcheck shell=bash
-# Configuring and compiling. PRESET in the environment picks another preset than mingw.
+# Configuring and compiling. PRESET in the environment picks another preset than mingw, BUILD_FLAGS is handed to ninja.
 
 PRESET=${PRESET:-mingw}
+BUILD_FLAGS=${BUILD_FLAGS:-}
 BIN=build/$PRESET/bin
 
 # build TARGET...: compiles the named targets; "all" is one.
@@ -9,7 +10,8 @@ build() {
     [ -f "build/$PRESET/build.ninja" ] || configure
     say "Building (build/$PRESET)"
     if [ -t 1 ]; then
-        cmake --build "build/$PRESET" -j "$(nproc)" --target "$@"
+        # shellcheck disable=SC2086 # a list of words
+        cmake --build "build/$PRESET" -j "$(nproc)" --target "$@" -- $BUILD_FLAGS
     else
         build_quietly "$@"
     fi
@@ -28,7 +30,8 @@ configure() {
 # Without a terminal the compiler's messages are wanted, not each step.
 build_quietly() {
     local log=build/build-$PRESET.log
-    cmake --build "build/$PRESET" -j "$(nproc)" --target "$@" >"$log" 2>&1 </dev/null || {
+    # shellcheck disable=SC2086 # a list of words
+    cmake --build "build/$PRESET" -j "$(nproc)" --target "$@" -- $BUILD_FLAGS >"$log" 2>&1 </dev/null || {
         grep -vE '^\[[0-9]+/[0-9]+\] (Building|Linking|Re-checking|Re-running)' "$log" >&2
         fail "The build failed; $log has all of it."
     }

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # The commands of ./run. A command whose program this tree does not have is not offered.
 
-COMMANDS="gallery test bench shots designer dfm soak lint build help"
+COMMANDS="gallery test bench shots designer dfm soak lint artwork build help"
 
 is_command() {
     local command
@@ -21,6 +21,7 @@ command_help() {
 ./run dfm ...         converts and checks form files
 ./run soak [filter]   runs the tests that take long
 ./run lint [check]    checks the house rules
+./run artwork         draws the skin's bitmaps anew; with --check only compares them
 ./run build [target]  compiles everything, or one target
 ./run help            shows this
 
@@ -30,6 +31,7 @@ TEXT
 
 command_build() {
     need build
+    [ "$PRESET" != clang ] || need lint
     build "${@:-all}"
 }
 
@@ -87,6 +89,19 @@ command_dfm() {
     need_program dfm
     wine_ready null
     wine_run dfm "$@"
+}
+
+command_lint() {
+    need build wine lint
+    scripts/lint/lint.py "$@" &
+    wait $!
+}
+
+command_artwork() {
+    need build wine
+    build skinart
+    wine_ready null
+    wine_run skinart "$@" resources
 }
 
 # On a display: real windows until they are closed. Without one: pictures.

@@ -12,7 +12,9 @@ from programs import Portion
 
 # Codes under which a crash reaches us from Wine (the low byte of the Windows code).
 CRASHES = {5: "access violation", 29: "illegal instruction or undefined behaviour", 53: "a DLL was not found",
-           148: "division by zero", 3: "abort or uncaught exception", 99: "unhandled exception", 253: "stack overflow"}
+           148: "division by zero", 98: "took too long", 3: "abort or uncaught exception", 99: "unhandled exception", 253: "stack overflow"}
+
+GRACE = 10.0  # seconds
 
 STARTED = re.compile(r"\[ RUN      \] (\S+)")
 ENDED = re.compile(r"\[(       OK |  FAILED  |  SKIPPED )\] ([^\s,]+)")
@@ -92,9 +94,11 @@ class Runner:
         # Names of tests may be longer than a command line can be.
         flags.write_text("--gtest_filter=" + ":".join(tests) + "\n")
         with output.open("wb") as sink:
+            # The program itself ends a test that takes too long; should it be unable to, we do, a little later.
             process = subprocess.Popen(["wine", str(program), f"--gtest_flagfile={flags}", "--gtest_color=no"],
                                        stdin=subprocess.DEVNULL, stdout=sink, stderr=subprocess.STDOUT,
-                                       start_new_session=True)
+                                       start_new_session=True,
+                                       env=os.environ | {"TEST_TIMEOUT": f"{self.limit:.0f}"})
         self.processes.add(process)
         log = Log(output, since=time.monotonic())
         try:
@@ -112,7 +116,7 @@ class Runner:
             time.sleep(pause)
             pause = min(pause * 1.5, 0.1)
             log.read()
-            if time.monotonic() - log.since > self.limit:
+            if time.monotonic() - log.since > self.limit + GRACE:
                 self.kill(process)
                 log.read()
                 self.blame(log, tests, f"hung: ended after {self.limit:g} s")

@@ -64,7 +64,7 @@ def summary(done: list[tuple[Portion, Result]], started: float) -> int:
 
 def main() -> int:
     args = arguments()
-    limit = args.limit or float(os.environ.get("TEST_LIMIT", 1800 if args.soak else 60))
+    limit = args.limit or float(os.environ.get("TEST_TIMEOUT", 1800 if args.soak else 60))
     logs = args.bin.parent / "test-logs"
     times = Times(args.bin.parent / "test-times.json")
     runner = Runner(logs, limit)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/vcl/core/Component.h"
+#include "platform/vcl/core/Events.h"
 #include "platform/vcl/core/LifeGuard.h"
 #include "platform/vcl/core/WindowsApi.h"
 
