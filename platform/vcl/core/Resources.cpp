@@ -5,6 +5,8 @@
 namespace vcl {
 
 HINSTANCE ModuleOfAddress(const void* address) {
+    // The system would take null for the program.
+    if (!address) return nullptr;
     HMODULE module = nullptr;
     GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                        static_cast<const wchar_t*>(address), &module);
@@ -24,6 +26,8 @@ bool HasResource(HINSTANCE module, const String& name, const wchar_t* type) {
 }
 
 String LoadResString(HINSTANCE module, unsigned id) {
+    // The system looks at the low 16 bits only.
+    if (id > 0xFFFF) return {};
     // With no room for the text the system hands out the resource itself, so that no length is guessed.
     const wchar_t* text = nullptr;
     const int length = LoadStringW(module, id, reinterpret_cast<wchar_t*>(&text), 0);

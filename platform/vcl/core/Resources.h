@@ -8,7 +8,8 @@
 
 namespace vcl {
 
-/// The module (DLL or program) whose code or data contain the address; resources are read from it by name.
+/// The module (DLL or program) whose code or data contain the address, or null; resources are read from it by
+/// name.
 [[nodiscard]] HINSTANCE ModuleOfAddress(const void* address);
 
 /// The bytes of a resource; valid as long as the module stays loaded. Raises EResNotFound "Resource <name>
