@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/Filer.h"
 #include "platform/vcl/core/Identifiers.h"
 
 namespace vcl {
@@ -152,6 +153,25 @@ void TComponent::SetDesigning(bool value, bool setChildren) {
     if (!setChildren) return;
     for (TComponent* component : FComponents)
         component->SetDesigning(value);
+}
+
+void TComponent::DefineProperties(TFiler& filer) {
+    TPersistent::DefineProperties(filer);
+    const auto* ancestor = dynamic_cast<const TComponent*>(filer.GetAncestor());
+    const auto half = [&](const wchar_t* name, int shift) {
+        const auto of = [shift](const TComponent& component) {
+            return static_cast<std::int16_t>(component.FDesignInfo >> shift);
+        };
+        const auto read = [this, shift](TValueReader& reader) {
+            const std::uint32_t value = static_cast<std::uint16_t>(reader.ReadInteger());
+            const std::uint32_t rest = static_cast<std::uint32_t>(FDesignInfo) & ~(0xFFFFu << shift);
+            FDesignInfo = static_cast<std::int32_t>(rest | value << shift);
+        };
+        const auto write = [&](TValueWriter& writer) { writer.WriteInteger(of(*this)); };
+        filer.DefineProperty(name, read, write, of(*this) != (ancestor ? of(*ancestor) : 0));
+    };
+    half(L"Left", 0);
+    half(L"Top", 16);
 }
 
 void TComponent::GetChildren(const std::function<void(TComponent*)>&, TComponent*) {}

@@ -88,18 +88,24 @@ public:
     virtual void SetParentComponent(TComponent*) {}
     /// Calls `visit` for each component that a form file nests under this one.
     virtual void GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root);
+    /// Moves `child` to that place among those that `GetChildren` visits; the default ignores it.
+    virtual void SetChildOrder(TComponent*, int) {}
 
     /// For readers of form files: marks the component as being read, and as complete again.
     void BeginLoading();
     void EndLoading();
 
-    /// For a designer's place of a non-visual component, in pixels of its form.
+    /// For a designer's place of a non-visual component, in pixels of its form: the low word counts from the
+    /// left, the high word from the top. Form files hold it as `Left` and `Top`.
     [[nodiscard]] std::int32_t GetDesignInfo() const { return FDesignInfo; }
     void SetDesignInfo(std::int32_t value) { FDesignInfo = value; }
 
 protected:
     friend class TReader;
+    friend class TWriter;
+    friend class TLoadSession;
 
+    void DefineProperties(TFiler& filer) override;
     /// Tells that `component` came to (opInsert) or is leaving (opRemove) this component's surroundings: what
     /// the owner hears, all that it owns hears too. The component may be under construction or half
     /// destroyed, so compare the pointer and ask it nothing but what `TComponent` offers.

@@ -289,8 +289,12 @@ public:
     template <auto method>
     TClassDefinition&& Method(const wchar_t* name) && {
         using Event = detail::EventFor<decltype(method)>;
-        FMethods.push_back({name, &typeid(Event), [](TEventBase& event, TObject* instance) {
+        FMethods.push_back({name, &typeid(Event),
+                            [](TEventBase& event, TObject* instance) {
                                 static_cast<Event&>(event) = Event(static_cast<T*>(instance), method);
+                            },
+                            [](const TEventBase& event, TObject* instance) {
+                                return event == Event(static_cast<T*>(instance), method);
                             }});
         return std::move(*this);
     }

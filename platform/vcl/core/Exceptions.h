@@ -107,25 +107,25 @@ public:
     [[nodiscard]] const wchar_t* ClassName() const override { return L"EFCreateError"; }
 };
 
-/// A stream ended before all that was asked for could be read.
-class EReadError : public EStreamError {
-public:
-    using EStreamError::EStreamError;
-    [[nodiscard]] const wchar_t* ClassName() const override { return L"EReadError"; }
-};
-
-/// A stream can't take what was written.
-class EWriteError : public EStreamError {
-public:
-    using EStreamError::EStreamError;
-    [[nodiscard]] const wchar_t* ClassName() const override { return L"EWriteError"; }
-};
-
-/// Classes and form files do not fit together: a class name is taken, a property can't be read.
+/// Base of the errors of reading and writing; raised itself when classes and form files do not fit together.
 class EFilerError : public EStreamError {
 public:
     using EStreamError::EStreamError;
     [[nodiscard]] const wchar_t* ClassName() const override { return L"EFilerError"; }
+};
+
+/// A stream ended before all that was asked for could be read, or what it holds can't be used.
+class EReadError : public EFilerError {
+public:
+    using EFilerError::EFilerError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EReadError"; }
+};
+
+/// A stream can't take what was written.
+class EWriteError : public EFilerError {
+public:
+    using EFilerError::EFilerError;
+    [[nodiscard]] const wchar_t* ClassName() const override { return L"EWriteError"; }
 };
 
 /// A class name of a form file is not registered.

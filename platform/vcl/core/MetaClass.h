@@ -20,6 +20,8 @@ struct TPublishedMethod {
     String Name;
     const std::type_info* Signature;                     ///< `typeid(TEvent<...>)` that it fits.
     void (*Bind)(TEventBase& event, TObject* instance);  ///< Binds the method of `instance` to `event`.
+    /// True when `event`, of that signature, calls the method of `instance`.
+    bool (*IsBound)(const TEventBase& event, TObject* instance);
 };
 
 /// The description of a class at run time: its name, its ancestor, how to make one, and what it publishes.

@@ -4,6 +4,8 @@
 
 namespace vcl {
 
+class TFiler;
+
 /// An object that can be assigned to others of its kind and whose published properties form files can hold.
 class TPersistent : public TObject {
 public:
@@ -22,6 +24,12 @@ public:
     [[nodiscard]] virtual String GetNamePath() const;
 
 protected:
+    friend class TReader;
+    friend class TWriter;
+
+    /// Names what form files hold of the object beside its published properties, such as the bytes of a
+    /// picture. Overrides call the ancestor's first.
+    virtual void DefineProperties(TFiler&) {}
     /// The other half of `Assign`: writes this object's contents into `dest`.
     virtual void AssignTo(TPersistent* dest) const;
 

@@ -46,6 +46,8 @@ public:
     void Assign(const TPersistent* source) override;
 
 protected:
+    /// The texts, as the list `Strings`.
+    void DefineProperties(TFiler& filer) override;
     [[nodiscard]] bool IsUpdating() const { return FUpdateCount > 0; }
     virtual void SetUpdateState(bool updating);
 

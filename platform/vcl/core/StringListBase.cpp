@@ -1,4 +1,5 @@
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/Filer.h"
 #include "platform/vcl/core/StringList.h"
 
 namespace vcl {
@@ -92,6 +93,28 @@ void TStrings::SetText(const String& text) {
         for (const String& line : SplitLines(text))
             Add(line);
     });
+}
+
+void TStrings::DefineProperties(TFiler& filer) {
+    TPersistent::DefineProperties(filer);
+    const auto read = [this](TValueReader& reader) {
+        Bracketed(*this, [&] {
+            Clear();
+            reader.ReadListBegin();
+            while (!reader.EndOfList())
+                Add(reader.ReadString());
+            reader.ReadListEnd();
+        });
+    };
+    const auto write = [this](TValueWriter& writer) {
+        writer.WriteListBegin();
+        const int count = GetCount();
+        for (int i = 0; i < count; ++i)
+            writer.WriteString(Get(i));
+        writer.WriteListEnd();
+    };
+    const auto* ancestor = dynamic_cast<const TStrings*>(filer.GetAncestor());
+    filer.DefineProperty(L"Strings", read, write, ancestor ? !Equals(*ancestor) : GetCount() > 0);
 }
 
 bool TStrings::Equals(const TStrings& other) const {
