@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/vcl/controls/BasicAction.h"
 #include "platform/vcl/controls/ContextMenu.h"
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -55,6 +56,14 @@ inline constexpr auto StateRows = []<class C>(TClassDefinition<C>&& table) -> TC
         .Property(L"ShowHint", &C::GetShowHint, &C::SetShowHint)
         .Stored(&C::IsShowHintStored)
         .Property(L"Visible", &C::GetVisible, &C::SetVisible, true);
+};
+
+/// `Action`, `Caption`.
+inline constexpr auto ActionRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
+    return std::move(table)
+        .Property(L"Action", &C::GetAction, &C::SetAction)
+        .Property(L"Caption", &C::GetCaption, &C::SetCaption)
+        .Stored(&C::IsCaptionStored);
 };
 
 /// `TabOrder` and `TabStop` of controls that are tab stops by themselves.
