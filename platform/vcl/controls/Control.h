@@ -36,7 +36,7 @@ public:
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
 
-    // --- parent -------------------------------------------------------------------------------------------
+    // --- parent
     [[nodiscard]] TWinControl* GetParent() const { return FParent; }
     /// Moves the control to another parent (null: none). The parent frees it. Raises EInvalidOperation for a
     /// control that would come to stand in itself.
@@ -51,7 +51,6 @@ public:
     }
 
     // --- geometry (ControlGeometry.cpp)
-    // ---------------------------------------------------------------------
     [[nodiscard]] int GetLeft() const { return FLeft; }
     [[nodiscard]] int GetTop() const { return FTop; }
     [[nodiscard]] int GetWidth() const { return FWidth; }
@@ -91,7 +90,6 @@ public:
     void SendToBack();
 
     // --- look (ControlProperties.cpp)
-    // -----------------------------------------------------------------------
     [[nodiscard]] bool GetVisible() const { return FVisible; }
     void SetVisible(bool value);
     void Show();
@@ -134,8 +132,10 @@ public:
     [[nodiscard]] bool IsControlState(TControlStateFlag flag) const { return FControlState.Contains(flag); }
     void SetControlState(TControlStateFlag flag, bool present) { FControlState.Put(flag, present); }
 
+    /// True when the control counts as visible: by its own switch, or at design time.
+    [[nodiscard]] bool IsShown() const;
+
     // --- painting
-    // -------------------------------------------------------------------------------------------
     /// Marks the whole control for painting.
     virtual void Invalidate();
     /// Paints what is marked now.
@@ -144,12 +144,16 @@ public:
     /// through the message queue.
     virtual void Repaint();
     void Refresh() { Repaint(); }
+    /// A device context of the control's place on the screen, for drawing outside of painting; `window`
+    /// becomes the window that the caller gives it back to with ReleaseDC. Of a control without a window it
+    /// is the parent's, moved and clipped.
+    [[nodiscard]] virtual HDC GetDeviceContext(HWND& window);
 
     // --- messages (ControlMessages.cpp)
-    // -----------------------------------------------------------------------
     /// Sends a message to the control itself, window or not, and returns its result.
     LRESULT Perform(UINT msg, WPARAM wParam = 0, LPARAM lParam = 0);
-    LRESULT Perform(UINT msg, WPARAM wParam, const void* lParam) {
+    template <class T>
+    LRESULT Perform(UINT msg, WPARAM wParam, T* lParam) {
         return Perform(msg, wParam, reinterpret_cast<LPARAM>(lParam));
     }
     /// Replaces `WndProc` as the receiver of all messages while it is bound; the substitute passes on what it
@@ -161,7 +165,6 @@ public:
     void SendTo(TMessage& message);
 
     // --- mouse (ControlMouse.cpp)
-    // -----------------------------------------------------------------------------
     [[nodiscard]] bool GetMouseCapture() const;
     void SetMouseCapture(bool value);
     /// True while the pointer is on the control, as far as its messages told.
@@ -170,14 +173,12 @@ public:
     void CancelPress() { FControlState = FControlState - TControlState{csClicked, csLButtonDown}; }
 
     // --- drag and drop: the switch of the control; the rest is in DragDrop.h
-    // -----------------------------------
     [[nodiscard]] TDragMode GetDragMode() const { return FDragMode; }
     virtual void SetDragMode(TDragMode value) { FDragMode = value; }
     [[nodiscard]] TCursor GetDragCursor() const { return FDragCursor; }
     void SetDragCursor(TCursor value) { FDragCursor = value; }
 
     // --- events that every control can raise; classes publish those that fit
-    // ------------------------------------
     TNotifyEvent OnClick;
     TNotifyEvent OnDblClick;
     TMouseEvent OnMouseDown;
@@ -195,7 +196,6 @@ public:
     TContextPopupEvent OnContextPopup;
 
     // --- rules for form files
-    // -----------------------------------------------------------------------------------
     [[nodiscard]] bool IsColorStored() const { return !FParentColor; }
     [[nodiscard]] bool IsFontStored() const { return !FParentFont; }
     [[nodiscard]] bool IsShowHintStored() const { return !FParentShowHint; }
@@ -220,7 +220,6 @@ protected:
 
     void Notification(TComponent* component, TOperation operation) override;
     void Loaded() override;
-    void ChangeName(const String& name) override;
     void BeforeDestruction() override;
 
     // Reactions, to be overridden.
@@ -254,8 +253,6 @@ protected:
     virtual void ActionChange(TObject* sender, bool checkDefaults);
     [[nodiscard]] virtual std::unique_ptr<TBasicActionLink> CreateActionLink();
     [[nodiscard]] TBasicActionLink* GetActionLink() const { return FActionLink.get(); }
-    /// Runs before a click's event: executes the linked action; true when that replaced the event.
-    void ExecuteActionOrClick();
     /// The menu that a right click at the point opens.
     [[nodiscard]] virtual TContextMenu* GetPopupMenuAt(TPoint) { return FPopupMenu; }
 
@@ -265,20 +262,18 @@ protected:
     /// The text that the control itself keeps.
     [[nodiscard]] const String& StoredText() const { return FText; }
 
-    // Painting without a window: a device context of the parent's, moved and clipped to the control. The
-    // caller gives it back with ReleaseDC(window).
-    [[nodiscard]] virtual HDC GetDeviceContext(HWND& window);
     /// Marks the area for painting, if it shows; `opaque`: nothing below it needs painting first.
     void InvalidateControl(bool isVisible, bool isOpaque);
-    [[nodiscard]] bool IsOpaqueNow() const;
 
     // Place in the parent's list.
     virtual void SetZOrder(bool topmost);
-    void SetZOrderPosition(int position);
     /// True when the form's designer took the message.
     [[nodiscard]] bool IsDesignMessage(TMessage& message);
     /// Raises an event that carries just the sender; false when the control is gone afterwards.
     bool Raise(const TNotifyEvent& event);
+    /// Tells the control with the focus that something else was clicked, so that it closes what it opened.
+    void SendCancelMode();
+    [[noreturn]] void RaiseNoParentWindow() const;
     virtual void VisibleChanging() {}
 
     // Drag and drop (later work fills these in; kept here so that descendants can rely on the order).
@@ -297,20 +292,22 @@ private:
     void ParentColorChanged();
     void ParentShowHintChanged();
     void UpdateAnchorBase();
+    bool NegotiateSize(int& width, int& height);
     void ApplyConstraints(int& width, int& height);
-    void StoreBounds(int left, int top, int width, int height);
+    void StoreBounds(const TRect& bounds);
     void DoActionChange(TObject* sender);
-    void InvalidateFrame();
+    void PrepareMouseMessage(TMessage& message);
     // Handlers of the message map.
     void WmMouseDown(TMessage& message, TMouseButton button, bool isDouble);
     void WmMouseUp(TMessage& message, TMouseButton button);
     void WmMouseMove(TMessage& message);
+    void WmCancelMode(TMessage& message);
     void WmContextMenu(TMessage& message);
-    void WmMouseActivate(TMessage& message);
     void CmMouseWheel(TMessage& message);
     void CmMouseEnterLeave(TMessage& message, bool enter);
-    void DoMouseDown(TMessage& message, TMouseButton button, TShiftState shift);
-    void WmCancelMode();
+    void CmVisibleChanged(TMessage& message);
+    void CmCursorChanged();
+    void DoMouseDown(const TMessage& message, TMouseButton button, TShiftState shift);
 
     TWinControl* FParent = nullptr;
     int FLeft = 0;
@@ -321,7 +318,7 @@ private:
     TAnchors FAnchors{akLeft, akTop};
     TAnchorBase FAnchorBase;
     TControlState FControlState;
-    TColor FColor;
+    TColor FColor = clBtnFace;
     TCursor FCursor = crDefault;
     TCursor FDragCursor = crDrag;
     TDragMode FDragMode = dmManual;
@@ -332,8 +329,9 @@ private:
     bool FShowHint = false;
     bool FParentShowHint = true;
     bool FAutoSize = false;
-    bool FAutoSizing = false;
-    bool FTakingParentValue = false;
+    bool FTakingParentFont = false;
+    bool FInLayout = false;
+    int FWheelRest = 0;
     String FText;
     String FHint;
     std::unique_ptr<TFont> FFont;

@@ -7,6 +7,7 @@
 namespace vcl {
 
 class TCanvas;
+class TControlCanvas;
 
 /// A control with a window that paints itself.
 class TCustomControl : public TWinControl {
@@ -17,16 +18,15 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The surface of the client area. It can be used at any time, also outside of painting.
-    [[nodiscard]] TCanvas& GetCanvas() const { return *FCanvas; }
+    [[nodiscard]] TCanvas& GetCanvas() const;
 
 protected:
-    void Dispatch(TMessage& message) override;
     /// Draws the control on `GetCanvas()`.
     virtual void Paint() {}
     void PaintWindow(HDC dc) override;
 
 private:
-    std::unique_ptr<TCanvas> FCanvas;
+    std::unique_ptr<TControlCanvas> FCanvas;
 };
 
 }  // namespace vcl

@@ -7,6 +7,7 @@
 namespace vcl {
 
 class TCanvas;
+class TControlCanvas;
 
 /// A control without a window: its parent paints it and hands it the mouse. It has no focus and no children.
 class TGraphicControl : public TControl {
@@ -17,7 +18,7 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The surface of the control, from (0, 0). It can be used at any time, also outside of painting.
-    [[nodiscard]] TCanvas& GetCanvas() const { return *FCanvas; }
+    [[nodiscard]] TCanvas& GetCanvas() const;
 
 protected:
     void Dispatch(TMessage& message) override;
@@ -25,7 +26,7 @@ protected:
     virtual void Paint() {}
 
 private:
-    std::unique_ptr<TCanvas> FCanvas;
+    std::unique_ptr<TControlCanvas> FCanvas;
 };
 
 }  // namespace vcl

@@ -47,7 +47,6 @@ public:
     [[nodiscard]] virtual TParentForm* AsParentForm() { return nullptr; }
 
     // --- the window (WinControlWindow.cpp)
-    // ------------------------------------------------------------------
     /// The window, made now if need be together with those of the parents. Raises EInvalidOperation "Control
     /// '<name>' has no parent window" when there is nothing to put it in.
     [[nodiscard]] HWND GetHandle();
@@ -62,7 +61,6 @@ public:
     void SetParentWindow(HWND value);
 
     // --- children (WinControlChildren.cpp)
-    // ------------------------------------------------------------------
     [[nodiscard]] int GetControlCount() const {
         return static_cast<int>(FGraphicControls.size() + FWinControls.size());
     }
@@ -86,7 +84,6 @@ public:
     void GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root) override;
 
     // --- layout (WinControlLayout.cpp, Layout.h)
-    // --------------------------------------------------------------
     void DisableAlign() { ++FAlignLevel; }
     void EnableAlign();
     /// Lays out the children now.
@@ -97,7 +94,6 @@ public:
     [[nodiscard]] TPoint GetClientOrigin() const override;
 
     // --- focus and tab order (WinControlFocus.cpp)
-    // --------------------------------------------------------------
     [[nodiscard]] virtual bool Focused() const;
     /// Raises EInvalidOperation "Cannot focus a disabled or invisible window".
     virtual void SetFocus();
@@ -118,9 +114,8 @@ public:
     void SelectFirst();
 
     // --- showing and painting (WinControlPainting.cpp)
-    // ------------------------------------------------------------
     /// True when the window is visible and so are all parents.
-    [[nodiscard]] bool GetShowing() const { return FShowing; }
+    [[nodiscard]] bool GetShowing() const;
     [[nodiscard]] bool GetDoubleBuffered() const { return FDoubleBuffered; }
     /// Paints through a buffer in memory. Also ends `ParentDoubleBuffered`.
     void SetDoubleBuffered(bool value);
@@ -133,6 +128,7 @@ public:
     void Invalidate() override;
     void Update() override;
     void Repaint() override;
+    [[nodiscard]] HDC GetDeviceContext(HWND& window) override;
     /// Paints the control with its children into a foreign device context at the point.
     void PaintTo(HDC dc, int x, int y);
     [[nodiscard]] bool GetCtl3D() const { return FCtl3D; }
@@ -165,7 +161,6 @@ public:
 protected:
     friend class TControl;
     friend class TControlLayout;
-    friend class TControlWindowClass;
     friend bool OfferKeyMessage(const MSG& message);
 
     void WndProc(TMessage& message) override;
@@ -193,6 +188,8 @@ protected:
     [[nodiscard]] virtual TRect GetFrameInsets() const;
     /// The system's procedure behind ours.
     [[nodiscard]] WNDPROC GetDefWndProc() const { return FDefWndProc; }
+    /// True when the window builds on a class of the system, which then keeps the text and paints itself.
+    [[nodiscard]] bool IsSystemClass() const;
 
     // --- children and layout
     /// The area in which `Align` places children; may be narrowed.
@@ -206,7 +203,6 @@ protected:
     bool CanAutoSize(int& newWidth, int& newHeight) override;
     void SetClientSize(TSize value) override;
     void SetZOrder(bool topmost) override;
-    void AdjustSize() override;
     /// Before a child comes in: may raise an error to refuse it.
     virtual void ValidateInsert(TControl*) {}
 
@@ -220,7 +216,6 @@ protected:
     virtual void PaintWindow(HDC dc);
     /// Paints the children without a window, from `first` on (null: all).
     void PaintControls(HDC dc, TControl* first);
-    [[nodiscard]] HDC GetDeviceContext(HWND& window) override;
     virtual void ShowControl(TControl* control);
 
     // --- keyboard and focus
@@ -235,11 +230,13 @@ protected:
     bool DoKeyUp(TMessage& message);
     /// True when the key message is a short cut of a popup menu, the form or the program; it is run then.
     virtual bool IsMenuKey(TMessage& message);
-    /// Where the focus goes when the control asks the form for it.
+    /// Lets the form take the focus away from the control; `removing`: for good.
     void RemoveFocus(bool removing);
 
-    /// The message was reflected to the control it is about; used by overrides of WM_COMMAND and the like.
+    /// Reflects a message of a child window (WM_COMMAND ...) to its control as CN_...; false when the window
+    /// is no control.
     [[nodiscard]] static bool DoControlMsg(HWND window, TMessage& message);
+    /// Hands a mouse message to the child without a window that it is for; true when that was done.
     [[nodiscard]] bool IsControlMouseMsg(TMessage& message);
 
     // --- text: of a system class the window keeps it
@@ -251,7 +248,65 @@ protected:
 
 private:
     static LRESULT CALLBACK WindowProcedure(HWND window, UINT msg, WPARAM wParam, LPARAM lParam);
-    void MainWndProc(TMessage& message);
+    void WindowGone();
+    void CmRecreateWnd();
+    void PlaceInZOrder();
+    // geometry
+    void MoveWindowTo(const TRect& next);
+    void MoveWithoutWindow(const TRect& next);
+    void TakeWindowBounds();
+    [[nodiscard]] TSize FrameSize() const;
+    void WmWindowPosChanged(TMessage& message);
+    void WmSize(TMessage& message);
+    // children
+    [[nodiscard]] bool HasChild(const TControl* control) const;
+    void TakeOut(TControl* control);
+    [[nodiscard]] static bool IsHit(TControl& child, TPoint pos, bool allowDisabled);
+    [[nodiscard]] TPoint InsideOf(TPoint parentPoint) const;
+    void ApplyLoadedTabOrders();
+    // messages of the system's controls
+    void Reflect(HWND window, TMessage& message);
+    [[nodiscard]] static HWND DrawItemWindow(const DRAWITEMSTRUCT& item);
+    [[nodiscard]] HWND MeasureItemWindow(const MEASUREITEMSTRUCT& item) const;
+    // mouse
+    [[nodiscard]] TControl* MouseTarget(TPoint pos);
+    [[nodiscard]] TCursor CursorUnderPointer();
+    void WmMouseLeave(TMessage& message);
+    void WmSetCursor(TMessage& message);
+    void WmMouseActivate(TMessage& message);
+    void WmMouseWheel(TMessage& message);
+    void WmContextMenuInside(TMessage& message);
+    // keyboard
+    bool PreviewedByForm(TMessage& message);
+    bool OfferToForm(UINT msg, const TMessage& key);
+    void CnKeyDown(TMessage& message);
+    void CnSysKeyDown(TMessage& message);
+    void CnChar(TMessage& message);
+    void CnSysChar(TMessage& message);
+    // painting and frame
+    [[nodiscard]] bool CanPaintAtOnce() const;
+    void PaintBuffered(HDC target, const TRect& area);
+    void PaintParentBackground(HDC dc);
+    [[nodiscard]] TPoint PaintFrameTo(HDC dc);
+    [[nodiscard]] int BevelSize() const;
+    void DrawBevels(HDC dc) const;
+    void WmPaint(TMessage& message);
+    void WmPrintClient(TMessage& message);
+    void WmEraseBkgnd(TMessage& message);
+    void WmNcCalcSize(TMessage& message);
+    void WmNcPaint(TMessage& message);
+    void CmInvalidate(const TMessage& message);
+    void CmBorderChanged();
+    // properties
+    void CmVisibleChanged(TMessage& message);
+    void CmEnabledChanged();
+    void CmColorChanged();
+    void CmFontChanged();
+    void CmShowingChanged();
+    void CmTabStopChanged();
+    void CmCtl3DChanged();
+    void ParentCtl3DChanged();
+    void ParentDoubleBufferedChanged();
 
     HWND FParentWindow = nullptr;
     std::vector<TControl*> FGraphicControls;
@@ -260,6 +315,7 @@ private:
     std::unique_ptr<TBrush> FBrush;
     TTabOrder FLoadedTabOrder = -1;
     int FAlignLevel = 0;
+    TSize FFrame;
     TBevelEdges FBevelEdges{beLeft, beTop, beRight, beBottom};
     TBevelCut FBevelInner = bvRaised;
     TBevelCut FBevelOuter = bvLowered;
@@ -268,6 +324,9 @@ private:
     TBorderWidth FBorderWidth = 0;
     bool FTabStop = false;
     bool FShowing = false;
+    bool FFocused = false;
+    bool FComesShown = false;
+    bool FFrameKnown = false;
     bool FDoubleBuffered = false;
     bool FParentDoubleBuffered = true;
     bool FCtl3D = true;
