@@ -74,14 +74,13 @@ public:
 
     // --- Drawing
     /// The surface of the bitmap; drawing on an empty bitmap does nothing.
-    [[nodiscard]] TCanvas& GetCanvas() const;
+    [[nodiscard]] TCanvas& GetCanvas();
     /// Draws by the canvas' copy mode, or transparently when `Transparent` is set.
     void Draw(TCanvas& canvas, const TRect& rect) const override;
     /// A device context that holds the pixels, for reading; null when empty. Valid until the bitmap changes.
     [[nodiscard]] HDC GetSourceDC() const;
 
     // --- Transparency
-    void SetTransparent(bool value) override;
     /// The colour left out when drawing: the fixed one, or that of the bottom left pixel. `clNone` for an
     /// empty bitmap in `tmAuto`.
     [[nodiscard]] TColor GetTransparentColor() const;
@@ -98,7 +97,8 @@ public:
     /// The device-independent section with the pixels, null when empty; stays the bitmap's. While others use
     /// it the bitmap holds it selected in no device context, until it is drawn on or copied from again.
     [[nodiscard]] HBITMAP GetHandle();
-    /// Takes the system bitmap over: a section is kept as it is, others are copied and deleted; null empties.
+    /// Takes the system bitmap over: copies its pixels, a section's in their format, and deletes it; null
+    /// empties.
     void SetHandle(HBITMAP value);
     /// Gives the system bitmap up to the caller; the bitmap is then empty.
     [[nodiscard]] TBitmapHandle ReleaseHandle();
@@ -117,11 +117,11 @@ private:
     friend class TBitmapCanvas;
 
     void Unshare();
-    void TakeImage(std::shared_ptr<TBitmapImage> image, bool device);
+    void TakeImage(std::shared_ptr<TBitmapImage> image, TPixelFormat format);
     void DrawTransparent(TCanvas& canvas, const TRect& rect) const;
 
     std::shared_ptr<TBitmapImage> FImage;
-    mutable std::unique_ptr<TBitmapCanvas> FCanvas;
+    std::unique_ptr<TBitmapCanvas> FCanvas;
     int FWidth = 0;
     int FHeight = 0;
     TPixelFormat FFormat = pfDevice;  ///< Of an empty bitmap, and `pfDevice` against `pf32bit`.

@@ -127,6 +127,9 @@ public:
     void CopyRect(const TRect& dest, TCanvas& source, const TRect& sourceRect);
     /// Copies a part of a bitmap by the copy mode as `CopyRect` does.
     void CopyRect(const TRect& dest, const TBitmap& source, const TRect& sourceRect);
+    /// Copies from a device context by a raster operation and announces nothing: for pictures that draw
+    /// themselves.
+    void CopyFrom(const TRect& dest, HDC source, const TRect& sourceRect, TCopyMode mode);
     /// Fills with the brush, and copies the part of the bitmap but its pixels of the colour.
     void BrushCopy(const TRect& dest, const TBitmap& bitmap, const TRect& sourceRect, TColor transparent);
 
@@ -161,14 +164,14 @@ protected:
     virtual void Changed() { OnChange(this); }
 
 private:
-    class Drawing;
-
     void NeedFont();
     void NeedPen();
     void NeedBrush();
     void NeedGround();
-    void NeedTextColor();
-    void Copy(const TRect& dest, HDC source, const TRect& sourceRect);
+    void NeedText();
+    void Select(HGDIOBJ object, HGDIOBJ& old);
+    void SetGround(TColor color, int mode);
+    void SetTextColor(TColor color);
     void RestoreObjects();
 
     /// What the canvas knows of the state of its device context.
@@ -176,7 +179,7 @@ private:
         TSharedFont Font;
         TSharedPen Pen;
         TSharedBrush Brush;
-        bool HollowBrush = false;
+        bool HasBrush = false;
         int PenMode = 0;
         TColor TextColor = clInvalid;
         TColor GroundColor = clInvalid;

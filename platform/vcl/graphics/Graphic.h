@@ -57,6 +57,10 @@ public:
     /// picture's memory.
     virtual void Changed();
 
+protected:
+    /// Takes over whether another picture is transparent, without telling.
+    void TakeTransparent(const TGraphic& source) { FTransparent = source.FTransparent; }
+
 private:
     bool FTransparent = false;
     bool FModified = false;
