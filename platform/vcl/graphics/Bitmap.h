@@ -1,10 +1,9 @@
 #pragma once
 
-#include <windows.h>
-
 #include <memory>
 
 #include "platform/vcl/core/Sets.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/BitmapBits.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Graphic.h"

@@ -1,7 +1,5 @@
 #include "platform/vcl/graphics/BitmapFile.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <array>
 #include <bit>
@@ -9,6 +7,7 @@
 #include <limits>
 
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/PixelRows.h"
 
 namespace vcl {

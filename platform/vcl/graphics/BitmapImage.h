@@ -1,7 +1,5 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstddef>
 #include <cstdint>
 #include <list>
@@ -9,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Handles.h"
 

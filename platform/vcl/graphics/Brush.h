@@ -1,9 +1,8 @@
 #pragma once
 
-#include <windows.h>
-
 #include <memory>
 
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Color.h"
 #include "platform/vcl/graphics/GraphicsObject.h"
 #include "platform/vcl/graphics/Handles.h"

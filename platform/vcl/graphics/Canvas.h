@@ -1,12 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
 #include <optional>
 #include <span>
 
 #include "platform/vcl/core/Geometry.h"
 #include "platform/vcl/core/Persistent.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/BitmapBits.h"
 #include "platform/vcl/graphics/Brush.h"
 #include "platform/vcl/graphics/Font.h"
@@ -144,7 +143,7 @@ public:
     [[nodiscard]] int TextWidth(StringView text) { return TextExtent(text).Width; }
     [[nodiscard]] int TextHeight(StringView text) { return TextExtent(text).Height; }
     /// The measures of the font on this surface.
-    [[nodiscard]] TEXTMETRICW GetTextMetrics();
+    [[nodiscard]] TEXTMETRICW TextMetrics();
 
     // --- Clipping
     /// The rectangle around all that drawing can reach.

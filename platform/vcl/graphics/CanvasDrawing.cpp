@@ -250,7 +250,7 @@ TSize TCanvas::TextExtent(StringView text) {
     return size;
 }
 
-TEXTMETRICW TCanvas::GetTextMetrics() {
+TEXTMETRICW TCanvas::TextMetrics() {
     const HDC dc = GetHandle();
     NeedFont();
     TEXTMETRICW metrics{};

@@ -1,8 +1,7 @@
 #include "platform/vcl/graphics/Color.h"
 
-#include <windows.h>
-
 #include "platform/vcl/core/Strings.h"
+#include "platform/vcl/core/WindowsApi.h"
 
 namespace vcl {
 

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include <utility>
 
 #include "platform/vcl/core/Geometry.h"
 #include "platform/vcl/core/Ledger.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Handles.h"
 
 namespace vcl {

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <windows.h>
-
 #include <vector>
 
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Graphic.h"
 

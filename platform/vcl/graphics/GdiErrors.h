@@ -1,15 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
-#include "platform/vcl/core/Strings.h"
+#include "platform/vcl/core/WindowsApi.h"
 
 namespace vcl {
 
-/// The system's text for an error code, without line breaks at its end; "Out of system resources" for code 0.
-[[nodiscard]] String SystemErrorText(DWORD code);
-
-/// Raises EOutOfResources with the system's text for `code`.
+/// Raises EOutOfResources with the system's text for `code`, or "Out of system resources" when it has none.
 [[noreturn]] void RaiseOutOfResources(DWORD code = ::GetLastError());
 
 /// Returns the handle, or raises EOutOfResources when it is null.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <iosfwd>
 #include <memory>
 #include <span>
 #include <vector>
@@ -13,6 +12,7 @@
 namespace vcl {
 
 class TCanvas;
+class TStream;
 
 /// A picture of some kind: a bitmap, an icon, a JPEG.
 class TGraphic : public TPersistent {
@@ -46,10 +46,10 @@ public:
     virtual void LoadFromBytes(std::span<const std::byte> bytes) = 0;
     /// The bytes of a file of its kind.
     [[nodiscard]] virtual std::vector<std::byte> SaveToBytes() const = 0;
-    /// Reads all that is left in the stream.
-    void LoadFromStream(std::istream& stream);
-    void SaveToStream(std::ostream& stream) const;
-    /// Raises EFOpenError with the name when the file can't be read or written.
+    /// Reads all that is left in the stream; it must be a picture as `LoadFromBytes` takes it.
+    void LoadFromStream(TStream& stream);
+    void SaveToStream(TStream& stream) const;
+    /// Raises EFOpenError or EFCreateError when the file can't be opened or made.
     void LoadFromFile(const String& fileName);
     void SaveToFile(const String& fileName) const;
 

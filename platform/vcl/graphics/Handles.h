@@ -1,12 +1,11 @@
 #pragma once
 
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include <utility>
 
 #include "platform/vcl/core/Ledger.h"
+#include "platform/vcl/core/WindowsApi.h"
+
+#include <commctrl.h>
 
 namespace vcl {
 

@@ -1,16 +1,15 @@
 #pragma once
 
-#include <windows.h>
-
-#include <commctrl.h>
-
 #include <memory>
 #include <vector>
 
 #include "platform/vcl/core/Component.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Color.h"
 #include "platform/vcl/graphics/Handles.h"
+
+#include <commctrl.h>
 
 namespace vcl {
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <windows.h>
-
 #include <cstdint>
 #include <span>
 
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Bitmap.h"
 
 namespace vcl {

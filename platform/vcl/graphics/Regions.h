@@ -1,11 +1,10 @@
 #pragma once
 
-#include <windows.h>
-
 #include <span>
 #include <vector>
 
 #include "platform/vcl/core/Geometry.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Handles.h"
 
 namespace vcl {

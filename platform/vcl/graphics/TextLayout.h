@@ -1,9 +1,8 @@
 #pragma once
 
-#include <windows.h>
-
 #include "platform/vcl/core/Geometry.h"
 #include "platform/vcl/core/Strings.h"
+#include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Canvas.h"
 
 namespace vcl {
