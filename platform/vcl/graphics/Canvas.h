@@ -84,6 +84,14 @@ public:
     [[nodiscard]] TCopyMode GetCopyMode() const { return FCopyMode; }
     void SetCopyMode(TCopyMode value) { FCopyMode = value; }
 
+    /// Draws with functions of the system: announces, calls `draw` with the device context, announces.
+    template <class Draw>
+    void DrawDirectly(Draw draw) {
+        Changing();
+        draw(GetHandle());
+        Changed();
+    }
+
     // --- Pixels and lines
     /// The colour of a pixel, 0x00BBGGRR; `clInvalid` outside of the surface.
     [[nodiscard]] TColor GetPixel(int x, int y);

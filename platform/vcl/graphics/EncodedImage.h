@@ -35,12 +35,16 @@ protected:
     [[nodiscard]] virtual const GUID& ContainerFormat() const = 0;
     /// True when the bytes start as files of this format do.
     [[nodiscard]] virtual bool HasSignature(std::span<const std::byte> bytes) const = 0;
+    /// False when the end of the file is missing; some decoders make up what is not there.
+    [[nodiscard]] virtual bool IsComplete(std::span<const std::byte> bytes) const = 0;
     /// Raises EInvalidGraphic with the format's own text for the decoder's or encoder's error.
     [[noreturn]] virtual void RaiseInvalid(HRESULT error) const = 0;
     /// The quality to encode with, 1 to 100; 0 for formats that have none.
     [[nodiscard]] virtual int EncoderQuality() const { return 0; }
     /// Whether pixels carry an alpha channel (32 bits) or not (24 bits).
     [[nodiscard]] virtual bool HasAlpha() const { return false; }
+    /// Called when the pixels came from another kind of picture, to make them fit the format.
+    virtual void AdaptPixels(TBitmap&) const {}
     void AssignTo(TPersistent* dest) const override;
     /// Drops the loaded bytes, so that saving encodes anew.
     void ForgetBytes() { FBytes.clear(); }

@@ -38,6 +38,9 @@ public:
     /// An icon file of one picture of 32 bits.
     [[nodiscard]] std::vector<std::byte> SaveToBytes() const override;
 
+protected:
+    void AssignTo(TPersistent* dest) const override;
+
 private:
     std::shared_ptr<const TIconHandle> FHandle;
     TSize FSize;

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/vcl/core/Component.h"
+#include "platform/vcl/core/LifeGuard.h"
 #include "platform/vcl/core/WindowsApi.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Color.h"
@@ -42,7 +43,7 @@ private:
 /// Images of one size. The list keeps their pixels and draws them itself: images without a mask exactly and
 /// at the cost of a copy, masked ones with two; the system's image list for native controls is made on demand
 /// and kept up to date. Index errors raise EListError "List index out of bounds (n)".
-class TCustomImageList : public TComponent {
+class TCustomImageList : public TComponent, private TGuarded {
 public:
     explicit TCustomImageList(TComponent* AOwner);
     TCustomImageList(TComponent* AOwner, int width, int height);
@@ -64,9 +65,11 @@ public:
     void SetSize(int width, int height);
     [[nodiscard]] int GetCount() const { return static_cast<int>(FMasked.size()); }
 
-    // --- Images. A bitmap smaller than the list's images raises EInvalidOperation "Invalid image size"; a
-    // wider one of adding holds several images side by side. Masks are white where the image is transparent.
-    /// Appends, and returns the index of the first image added. A null bitmap adds an empty image.
+    // --- Images. A bitmap or mask smaller than the list's images raises EInvalidOperation "Invalid image
+    // size"; a wider one of adding holds several images side by side. Masks are black where the image shows
+    // and of any other colour where it is transparent; a null mask makes opaque images. A null bitmap changes
+    // nothing.
+    /// Appends, and returns the index of the first image added, or -1.
     int Add(const TBitmap* image, const TBitmap* mask);
     /// Appends with the pixels of a colour transparent: `clDefault` takes the bitmap's transparent colour,
     /// `clNone` adds without a mask.
@@ -85,7 +88,7 @@ public:
     bool GetBitmap(int index, TBitmap& bitmap) const;
 
     // --- Drawing. An index outside of the list draws nothing.
-    /// Draws in the list's drawing style; disabled images are drawn in greys of equal lightness.
+    /// Draws in the list's drawing style; disabled images are drawn in light greys.
     void Draw(TCanvas& canvas, int x, int y, int index, bool enabled = true) const;
     void Draw(TCanvas& canvas, int x, int y, int index, TDrawingStyle style, bool enabled = true) const;
     /// True when the image leaves pixels out.
@@ -121,23 +124,33 @@ protected:
 
 private:
     [[nodiscard]] TRect RectOf(int index) const { return TRect::OfSize(0, index * FHeight, FWidth, FHeight); }
-    void CheckIndex(int index, int limit) const;
-    [[nodiscard]] int CheckImage(const TBitmap* image) const;
+    [[nodiscard]] bool Has(int index) const { return index >= 0 && index < GetCount(); }
+    void CheckIndex(int index) const;
+    [[nodiscard]] int CountImagesIn(const TBitmap& image) const;
+    void CheckMask(const TBitmap* mask, const TBitmap& image) const;
+    int Append(const TBitmap& image, const TBitmap* mask);
     void MakeRoom(int count);
-    void Put(int index, const TBitmap* image, int imageLeft, const TBitmap* mask);
-    void DrawBlended(TCanvas& canvas, int x, int y, int index, TDrawingStyle style, bool enabled) const;
+    void Put(int index, const TBitmap& image, int imageLeft, const TBitmap* mask);
+    void PutMask(int index, const TBitmap& mask, int maskLeft);
+    void MakeMasks();
+    void Rotate(TBitmap& strip, int from, int to) const;
+    void Reorder(int from, int to);
+    void Compose(TCanvas& canvas, int x, int y, int index, TDrawingStyle style, bool enabled) const;
+    void DrawPixels(TCanvas& canvas, const TRect& dest, const TBitmap& source, const TRect& part,
+                    int index) const;
     void SyncHandle();
+    void TellLinks();
 
     int FWidth = 16;
     int FHeight = 16;
     TBitmap FImages;            ///< The images one below the other, 32 bits, black where transparent.
     TBitmap FMasks;             ///< Their masks, white where transparent; empty while no image has one.
+    mutable TBitmap FScratch;   ///< Where mixed images are put together.
     std::vector<bool> FMasked;  ///< Whether each image has transparent pixels.
     TColor FBkColor = clNone;
     TColor FBlendColor = clNone;
     TDrawingStyle FDrawingStyle = dsNormal;
     bool FKeepMasks = true;
-    bool FHandleStale = true;
     bool FChanged = false;
     int FUpdateCount = 0;
     TImageListHandle FHandle;

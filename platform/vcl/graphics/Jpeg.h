@@ -19,6 +19,7 @@ public:
 protected:
     [[nodiscard]] const GUID& ContainerFormat() const override;
     [[nodiscard]] bool HasSignature(std::span<const std::byte> bytes) const override;
+    [[nodiscard]] bool IsComplete(std::span<const std::byte> bytes) const override;
     [[noreturn]] void RaiseInvalid(HRESULT error) const override;
     [[nodiscard]] int EncoderQuality() const override { return FCompressionQuality; }
 

@@ -18,8 +18,11 @@ public:
 protected:
     [[nodiscard]] const GUID& ContainerFormat() const override;
     [[nodiscard]] bool HasSignature(std::span<const std::byte> bytes) const override;
+    [[nodiscard]] bool IsComplete(std::span<const std::byte> bytes) const override;
     [[noreturn]] void RaiseInvalid(HRESULT error) const override;
     [[nodiscard]] bool HasAlpha() const override { return true; }
+    /// Makes pictures opaque whose pixels have no alpha at all.
+    void AdaptPixels(TBitmap& bitmap) const override;
 };
 
 }  // namespace vcl
