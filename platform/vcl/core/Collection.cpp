@@ -44,12 +44,7 @@ TCollectionItem* TCollection::Add() {
     }
     FAdding = false;
     if (!item) throw EInvalidOperation(Format(L"Items of class %s can't be made", FItemClass->ClassName()));
-    try {
-        Notify(item, cnAdded);
-    } catch (...) {
-        delete item;
-        throw;
-    }
+    Notify(item, cnAdded);
     Changed();
     return item;
 }

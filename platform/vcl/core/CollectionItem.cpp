@@ -12,14 +12,7 @@ const TMetaClass& TCollectionItem::StaticClass() {
 }
 
 TCollectionItem::TCollectionItem(TCollection* ACollection) {
-    if (!ACollection) return;
-    try {
-        ACollection->InsertItem(this);
-    } catch (...) {
-        // The destructor will not run.
-        std::erase(ACollection->FItems, this);
-        throw;
-    }
+    if (ACollection) ACollection->InsertItem(this);
 }
 
 TCollectionItem::~TCollectionItem() {

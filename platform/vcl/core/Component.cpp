@@ -18,14 +18,7 @@ const TMetaClass& TComponent::StaticClass() {
 }
 
 TComponent::TComponent(TComponent* AOwner) {
-    if (!AOwner) return;
-    try {
-        AOwner->InsertComponent(this);
-    } catch (...) {
-        // The destructor will not run.
-        if (FOwner) FOwner->Unlist(this);
-        throw;
-    }
+    if (AOwner) AOwner->InsertComponent(this);
 }
 
 TComponent::~TComponent() {
@@ -113,10 +106,7 @@ void TComponent::RemoveComponent(TComponent* component) {
     if (!component || component->FOwner != this) return;
     ValidateRename(component, component->FName, {});
     Notification(component, opRemove);
-    if (component->FOwner == this) Unlist(component);
-}
-
-void TComponent::Unlist(TComponent* component) {
+    if (component->FOwner != this) return;
     // Mostly it is the last one that goes.
     const auto place = std::find(FComponents.rbegin(), FComponents.rend(), component);
     FComponents.erase(std::next(place).base());

@@ -73,11 +73,9 @@ void TMemoryStream::SetSize(std::int64_t size) {
 }
 
 void TMemoryStream::LoadFromStream(TStream& stream) {
-    if (&stream != this) {
-        SetSize(stream.GetSize());
-        stream.SetPosition(0);
-        stream.ReadBuffer(FStorage.data(), FStorage.size());
-    }
+    SetSize(stream.GetSize());
+    stream.SetPosition(0);
+    stream.ReadBuffer(FStorage.data(), FStorage.size());
     FPosition = 0;
 }
 
