@@ -16,10 +16,7 @@ public:
     void SetWordWrap(bool value);
 
 protected:
-    void Dispatch(TMessage& message) override;
     void CreateParams(TCreateParams& params) override;
-    /// Whether the system's notification counts as a click; tells it while a class sets its state itself.
-    bool ClicksDisabled = false;
 
 private:
     bool FWordWrap = false;

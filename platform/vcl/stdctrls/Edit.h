@@ -18,7 +18,6 @@ public:
     [[nodiscard]] bool GetAutoSelect() const { return FAutoSelect; }
     /// Whether all is selected when the focus comes by key.
     void SetAutoSelect(bool value) { FAutoSelect = value; }
-    void SetAutoSize(bool value) override;
     [[nodiscard]] TBorderStyle GetBorderStyle() const { return FBorderStyle; }
     void SetBorderStyle(TBorderStyle value);
     [[nodiscard]] TAlignment GetAlignment() const { return FAlignment; }
@@ -68,6 +67,7 @@ protected:
     void CreateWnd() override;
     void DestroyWnd() override;
     [[nodiscard]] TRect GetFrameInsets() const override;
+    [[nodiscard]] virtual bool IsMultiLine() const { return false; }
     /// Raises `OnChange`.
     virtual void Change();
     void AdjustSize() override { UpdateHeight(); }
@@ -75,6 +75,9 @@ protected:
     void UpdateHeight();
 
 private:
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    [[nodiscard]] TPoint Selection() const;
+
     TBorderStyle FBorderStyle = bsSingle;
     TAlignment FAlignment = taLeftJustify;
     TEditCharCase FCharCase = ecNormal;
@@ -86,7 +89,7 @@ private:
     bool FReadOnly = false;
     bool FNumbersOnly = false;
     bool FCreating = false;
-    mutable bool FModified = false;
+    bool FModified = false;
 };
 
 /// The line editor for forms.

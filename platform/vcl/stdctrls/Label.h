@@ -33,7 +33,6 @@ public:
     [[nodiscard]] TEllipsisPosition GetEllipsisPosition() const { return FEllipsisPosition; }
     /// Dots for what does not fit. A label with dots no longer changes its size by itself.
     void SetEllipsisPosition(TEllipsisPosition value);
-    void SetAutoSize(bool value) override;
 
 protected:
     void Dispatch(TMessage& message) override;
@@ -50,8 +49,9 @@ protected:
 
 private:
     [[nodiscard]] unsigned TextFlags() const;
-    [[nodiscard]] TRect MeasureText(int width);
+    [[nodiscard]] TRect NeededRect(int width);
     void FollowText();
+    [[nodiscard]] bool IsAccelFor(const TMessage& message) const;
 
     TAlignment FAlignment = taLeftJustify;
     TTextLayout FLayout = tlTop;

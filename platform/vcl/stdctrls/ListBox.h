@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/StringList.h"
@@ -16,10 +17,10 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The entries with their objects; owned by the control. They survive the window's being made anew.
-    [[nodiscard]] const TStrings& GetItems() const { return *FItems; }
-    [[nodiscard]] TStrings& Items() { return *FItems; }
-    void SetItems(const TStrings& value) { FItems->Assign(&value); }
-    [[nodiscard]] int GetCount() const { return FItems->GetCount(); }
+    [[nodiscard]] const TStrings& GetItems() const;
+    [[nodiscard]] TStrings& Items();
+    void SetItems(const TStrings& value) { Items().Assign(&value); }
+    [[nodiscard]] int GetCount() const { return GetItems().GetCount(); }
     /// The selected entry (with `MultiSelect`: the one with the focus), or -1. Setting it raises no event.
     [[nodiscard]] int GetItemIndex() const;
     void SetItemIndex(int value);
@@ -43,7 +44,7 @@ public:
     [[nodiscard]] int ItemAtPos(TPoint pos) const;
     /// The place of the entry in client pixels.
     [[nodiscard]] TRect ItemRect(int index) const;
-    void Clear() { FItems->Clear(); }
+    void Clear() { Items().Clear(); }
 
 protected:
     void Dispatch(TMessage& message) override;
@@ -53,13 +54,23 @@ protected:
     [[nodiscard]] TRect GetFrameInsets() const override;
 
 private:
-    friend class TListBoxStrings;
-    class TSavedState;
+    class TItems;
 
-    std::unique_ptr<TStrings> FItems;
-    std::unique_ptr<TSavedState> FSaved;
+    /// Where the list stands while it has no window.
+    struct TPlace {
+        std::vector<int> Selected;
+        int Current = -1;
+        int Top = 0;
+    };
+    LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    [[nodiscard]] TPlace PresentPlace() const;
+    void Restore(const TPlace& place);
+    void FillWindow();
+    void CheckIndex(int index) const;
+
+    std::unique_ptr<TItems> FItems;
+    TPlace FPlace;
     TBorderStyle FBorderStyle = bsSingle;
-    int FPendingIndex = -1;
     bool FSorted = false;
     bool FMultiSelect = false;
     bool FIntegralHeight = false;

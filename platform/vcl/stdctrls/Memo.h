@@ -37,6 +37,7 @@ protected:
     void Dispatch(TMessage& message) override;
     void CreateParams(TCreateParams& params) override;
     void KeyPress(wchar_t& key) override;
+    [[nodiscard]] bool IsMultiLine() const override { return true; }
 
 private:
     std::unique_ptr<TStrings> FLines;

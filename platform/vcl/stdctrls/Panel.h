@@ -39,7 +39,6 @@ public:
     [[nodiscard]] bool GetShowCaption() const { return FShowCaption; }
     void SetShowCaption(bool value);
     void SetParentBackground(bool value) override;
-    [[nodiscard]] bool IsParentBackgroundStored() const { return FParentBackgroundSet; }
 
 protected:
     void Dispatch(TMessage& message) override;
@@ -51,7 +50,7 @@ protected:
 
 private:
     [[nodiscard]] int BevelExtent() const;
-    void DrawBevels(TRect& rect);
+    void SizeChanged();
     void DrawCaption(TRect rect);
     void BorderChanged();
 
@@ -62,9 +61,9 @@ private:
     TBevelWidth FBevelWidth = 1;
     TBorderWidth FBorderWidth = 0;
     TBorderStyle FBorderStyle = bsNone;
+    TSize FPaintedSize;
     bool FFullRepaint = true;
     bool FShowCaption = true;
-    bool FParentBackgroundSet = false;
 };
 
 /// The panel for forms.
@@ -74,11 +73,5 @@ public:
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
 };
-
-class TCanvas;
-
-/// Draws a frame of `width` pixels just inside the rectangle, light edges left and top, dark ones right and
-/// bottom, and narrows the rectangle to what is left.
-void Frame3D(TCanvas& canvas, TRect& rect, TColor topColor, TColor bottomColor, int width);
 
 }  // namespace vcl

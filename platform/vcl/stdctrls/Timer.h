@@ -23,24 +23,21 @@ public:
     /// Milliseconds between two events; 0 stops the timer. A running timer begins a whole new interval.
     /// The system delivers at most one event per 10 to 16 ms.
     void SetInterval(unsigned value);
-    [[nodiscard]] const TNotifyEvent& GetOnTimer() const { return FOnTimer; }
-    /// A timer without a handler costs nothing: it runs only while one is bound.
-    void SetOnTimer(const TNotifyEvent& value);
+
+    TNotifyEvent OnTimer;
 
 protected:
     /// Raises `OnTimer`.
     virtual void Timer();
 
 private:
-    static LRESULT CALLBACK WindowProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    void Update();
+    static void CALLBACK Elapsed(HWND window, UINT message, UINT_PTR id, DWORD time);
+    void Restart();
     void Stop();
 
-    HWND FWindow = nullptr;
+    UINT_PTR FId = 0;
     unsigned FInterval = 1000;
     bool FEnabled = true;
-    bool FRunning = false;
-    TNotifyEvent FOnTimer;
 };
 
 }  // namespace vcl
