@@ -3,6 +3,7 @@
 #include <concepts>
 #include <exception>
 #include <memory>
+#include <vector>
 
 #include "platform/vcl/controls/ControlTypes.h"
 #include "platform/vcl/core/Component.h"
@@ -14,7 +15,10 @@
 
 namespace vcl {
 
+class TApplicationEvents;
 class TApplicationHints;
+class TApplicationServices;
+class TApplicationWindow;
 class TBasicAction;
 class TCustomForm;
 class TIcon;
@@ -79,8 +83,8 @@ public:
 
     // --- message loop
     // ---------------------------------------------------------------------------------------------
-    /// Handles all messages in the queue and returns without waiting.
-    void ProcessMessages();
+    /// Handles all messages in the queue and returns without waiting; false when there was none.
+    bool ProcessMessages();
     /// Handles one message, or runs the idle work and waits for the next.
     void HandleMessage();
     /// Runs one message of a loop of the caller's own through the same steps: `OnMessage`, hints, keys,
@@ -130,7 +134,6 @@ public:
     void SetHintHidePause(int value) { FHintHidePause = value; }
     /// Hides the hint that is shown and forgets the one that waits.
     void CancelHint();
-    void HideHint();
     /// Shows the hint of what lies under the point (screen pixels) at once.
     void ActivateHint(TPoint cursorPos);
 
@@ -162,27 +165,53 @@ private:
     friend TApplication& Application();
     friend void DoneApplication();
     friend class TApplicationEvents;
+    friend class TApplicationHints;
     friend class TApplicationServices;
+    friend class TApplicationWindow;
     friend class TCustomForm;
-    class TImplementation;
 
     TApplication();
     void FormCreated(TCustomForm* form);
+    void ReleaseLater(TCustomForm* form);
+    void FreeReleasedForms();
     bool ProcessMessage();
     void Idle();
-    void Activated(bool active);
+    void IconChanged(TObject* sender);
+    /// The program became, or stopped being, the one with the active window.
+    void ActiveChanged(bool active);
 
-    std::unique_ptr<TImplementation> FImplementation;
+    // ApplicationEvents.cpp: each event goes to the registered hearers, then to the application's own
+    // handler. Those that answer return whether one of them handled it.
+    template <class Raise>
+    bool RaiseAll(Raise raise);
+    template <class Event>
+    void Notify(Event TApplicationEvents::*theirs, Event TApplication::*own);
+    void RaiseActive(bool active);
+    void RaiseMinimized(bool minimized);
+    void RaiseModal(bool begins);
+    void RaiseHint();
+    void RaiseSettingChange();
+    [[nodiscard]] bool RaiseException(TObject* sender, const std::exception& error);
+    void RaiseIdle(bool& done);
+    [[nodiscard]] bool RaiseMessage(MSG& message);
+    void RaiseShowHint(String& text, bool& canShow, THintInfo& info);
+    [[nodiscard]] bool RaiseShortCut(TMessage& message);
+
+    std::unique_ptr<TApplicationServices> FServices;
+    std::unique_ptr<TApplicationWindow> FWindow;
     std::unique_ptr<TApplicationHints> FHints;
     std::unique_ptr<TIcon> FIcon;
+    std::vector<TApplicationEvents*> FHearers;
+    std::vector<TCustomForm*> FReleasedForms;
     TCustomForm* FMainForm = nullptr;
     String FTitle;
     String FHint;
-    TColor FHintColor;
+    TColor FHintColor = clInfoBk;
     int FHintPause = 500;
     int FHintShortPause = 50;
     int FHintHidePause = 2500;
     int FModalLevel = 0;
+    int FRunLevel = 0;
     bool FTerminated = false;
     bool FActive = false;
     bool FShowHint = true;

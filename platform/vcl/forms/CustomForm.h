@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <vector>
 
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/forms/FormTypes.h"
@@ -16,11 +17,10 @@ class TWindowMenu;
 /// `TForm` publishes the properties.
 ///
 /// Creation: a class derived from TForm makes its controls in its constructor or reads its form file there.
-/// `OnCreate` is raised once, when the form is finished: by `Application().CreateForm`, by the reader of form
-/// files, or at the latest before its window is made. `OnDestroy` is raised while the object is whole, when
-/// it is freed through `Free`, `Release`, its owner or the application. With a plain `delete` or at the end
-/// of a scope the handler runs only when it belongs to another object, since the form's own class is gone by
-/// then.
+/// `OnCreate` is raised once, when the form is finished: by `Application().CreateForm`, or else before the
+/// form is first shown. `OnDestroy` is raised while the object is whole, when it is freed through `Free`,
+/// `Release`, its owner or the application. With a plain `delete` or at the end of a scope the handler runs
+/// only when it belongs to another object, since the form's own class is gone by then.
 class TCustomForm : public TScrollingWinControl, public TParentForm {
 public:
     explicit TCustomForm(TComponent* AOwner);
@@ -101,8 +101,6 @@ public:
     bool SetFocusedControl(TWinControl* control) override;
     void SetFocus() override;
     [[nodiscard]] bool CanFocus() const override;
-    /// Lets the default button follow the focus and the controls' states be asked again.
-    void UpdateDefaultControls();
 
     // --- keys (FormKeys.cpp)
     // ------------------------------------------------------------------------------------------
@@ -136,8 +134,8 @@ protected:
     friend class TApplication;
     friend class TScreen;
 
-    void Dispatch(TMessage& message) override;
     void WndProc(TMessage& message) override;
+    void Dispatch(TMessage& message) override;
     void Notification(TComponent* component, TOperation operation) override;
     void Loaded() override;
     void BeforeDestruction() override;
@@ -146,7 +144,6 @@ protected:
     void DestroyWindowHandle() override;
     [[nodiscard]] TRect GetFrameInsets() const override;
     void PaintWindow(HDC dc) override;
-    void VisibleChanging() override;
 
     /// Raises `OnPaint`; the surface is `GetCanvas()`.
     virtual void Paint();
@@ -157,48 +154,48 @@ protected:
     virtual void DoDestroy();
     virtual void DoShow();
     virtual void DoHide();
-    /// Called when the form's place among the windows of the screen may have changed.
+    /// Called when another control of the form became the active one.
     virtual void ActiveChanged() {}
+    /// Brings the actions behind the form's controls up to date; called when the program is idle.
+    virtual void UpdateActions();
     /// The window above which this one always lies; 0 for none.
     [[nodiscard]] virtual HWND GetOwnerWindow() const;
 
 private:
-    class TModalScope;
-
+    // FormLife.cpp, FormModal.cpp
     void RaiseDestroyFromDestructor();
-    void CmDialogKey(TMessage& message);
     void CmShowingChanged();
-    void CmActivate();
-    void CmDeactivate();
-    void CmRelease();
-    void WmActivate(const TMessage& message);
-    void WmClose();
-    void WmPaint(TMessage& message);
-    void WmEraseBackground(TMessage& message);
-    void WmSize(const TMessage& message);
-    void WmSetFocus();
-    void WmSysCommand(TMessage& message);
-    void WmNextDialogControl(const TMessage& message);
-    void WmShowWindow(const TMessage& message);
-    void WmQueryEndSession(TMessage& message);
-    void CmIconChanged();
-    void CmTextChanged();
-    [[nodiscard]] bool RunModalLoop();
+    void ShowWindowNow();
+    void HideWindowNow();
     void CloseModal();
+    void CarryOut(TCloseAction action);
+    [[nodiscard]] HWND NextActiveWindow() const;
+    // FormFrame.cpp
+    [[nodiscard]] DWORD FrameStyle() const;
+    [[nodiscard]] DWORD FrameExStyle() const;
     void ApplyPosition();
+    void CenterIn(const TRect& area);
     void ApplyIcon();
     void ApplyWindowMenu();
     void ApplyAlphaBlend();
-    [[nodiscard]] DWORD FrameStyle() const;
-    [[nodiscard]] DWORD FrameExStyle() const;
-    void ReattachOwnedForms(bool detach);
     void UpdateOwnerWindow();
+    void ReleaseOwnedForms();
+    void TakeOwnedFormsBack();
+    void IconChanged(TObject* sender);
+    void WmSize(TMessage& message);
+    void WmGetMinMaxInfo(TMessage& message);
+    void WmSysCommand(TMessage& message);
+    // FormFocus.cpp
+    void WmActivate(TMessage& message);
     void SetActive(bool value);
     void SetWindowFocus();
-    void ShowWindowNow();
-    void HideWindowNow();
-    bool MoveFocusTo(TWinControl* control);
-    bool SendFocusMessage(TWinControl& to, UINT msg);
+    [[nodiscard]] bool HandFocusOn();
+    [[nodiscard]] bool MoveFocusTo(TWinControl* control);
+    void CmActivate();
+    void CmDeactivate();
+    // FormKeys.cpp
+    void CmDialogKey(TMessage& message);
+    [[nodiscard]] bool OfferToMenu(TMessage& message);
 
     std::unique_ptr<TCanvas> FCanvas;
     std::unique_ptr<TIcon> FIcon;
@@ -207,7 +204,8 @@ private:
     TWinControl* FActiveControl = nullptr;
     TWinControl* FFocusedControl = nullptr;
     TCustomForm* FPopupParent = nullptr;
-    TFormState FFormState{fsCreating};
+    std::vector<TCustomForm*> FReleasedForms;  ///< Owned windows that wait for this window to be made anew.
+    TFormState FFormState;
     TFormBorderStyle FBorderStyle = bsSizeable;
     TBorderIcons FBorderIcons{biSystemMenu, biMinimize, biMaximize};
     TPosition FPosition = poDesigned;
@@ -220,11 +218,10 @@ private:
     bool FAlphaBlend = false;
     bool FKeyPreview = false;
     bool FActive = false;
+    bool FClosing = false;
     bool FCreateRaised = false;
     bool FDestroyRaised = false;
     bool FPositioned = false;
-    bool FSizingByState = false;
-    bool FInPaint = false;
 };
 
 }  // namespace vcl

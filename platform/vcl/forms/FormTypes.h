@@ -28,9 +28,7 @@ enum class TCloseAction { caNone, caHide, caFree, caMinimize };
 /// The window above which a form always lies: the main form's, the active form's, or that of `PopupParent`.
 enum class TPopupMode { pmNone, pmAuto, pmExplicit };
 enum class TFormStateFlag {
-    fsCreating,   ///< The constructor or the form file has not finished.
-    fsVisible,    ///< To be shown when it is finished.
-    fsShowing,    ///< On its way to being shown.
+    fsShowing,    ///< On its way to being shown or hidden.
     fsModal,      ///< Runs a modal loop.
     fsActivated,  ///< `OnActivate` was raised and not yet `OnDeactivate`.
 };

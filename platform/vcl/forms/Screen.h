@@ -39,7 +39,8 @@ public:
     [[nodiscard]] int GetFormCount() const { return static_cast<int>(FForms.size()); }
     [[nodiscard]] TCustomForm* GetForm(int index) const;
     [[nodiscard]] const std::vector<TCustomForm*>& Forms() const { return FForms; }
-    /// The form that has the focus or had it last; null without forms.
+    [[nodiscard]] bool HasForm(const TCustomForm* form) const;
+    /// The form that has the focus or had it last; null before the first one got it.
     [[nodiscard]] TCustomForm* GetActiveForm() const { return FActiveForm; }
     /// The control that has the focus or had it last in the active form.
     [[nodiscard]] TWinControl* GetActiveControl() const { return FActiveControl; }
@@ -60,25 +61,29 @@ private:
     friend TScreen& Screen();
     friend class TApplication;
     friend class TCustomForm;
-    friend void DoneApplication();
 
     TScreen();
     void AddForm(TCustomForm* form);
     void RemoveForm(TCustomForm* form);
     /// Notes that the control got the focus; raises the events of what changed.
     void FocusMoved(TCustomForm* form, TWinControl* control);
-    void ControlGone(const TWinControl* control);
+    /// The control, or a control on it, is gone or can't have the focus any more.
+    void FocusLost(const TWinControl* control);
+    void ApplyCursor() const;
 
     std::map<TCursor, TCursorHandle> FCursors;
     std::unique_ptr<TStringList> FFonts;
     std::vector<TCustomForm*> FForms;
     TCustomForm* FActiveForm = nullptr;
-    TCustomForm* FFocusedForm = nullptr;
+    TCustomForm* FFocusedForm = nullptr;  ///< Got CM_ACTIVATE and not yet CM_DEACTIVATE.
+    unsigned FFocusMoves = 0;             ///< Counts them, so that a handler that moves the focus is noticed.
     TWinControl* FActiveControl = nullptr;
     TCursor FCursor = crDefault;
 };
 
 /// The screen of the process, made on first use.
 [[nodiscard]] TScreen& Screen();
+/// Frees the screen; part of `DoneApplication`.
+void DoneScreen();
 
 }  // namespace vcl

@@ -10,17 +10,6 @@ public:
     explicit TScrollingWinControl(TComponent* AOwner);
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
-
-    [[nodiscard]] bool GetAutoScroll() const { return FAutoScroll; }
-    /// Whether scroll bars appear by themselves when controls lie outside of the window.
-    virtual void SetAutoScroll(bool value);
-
-protected:
-    /// Called when the range or the place of the content may have changed.
-    virtual void AutoScrollChanged() {}
-
-private:
-    bool FAutoScroll = false;
 };
 
 }  // namespace vcl
