@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/vcl/core/Ledger.h"
+#include "platform/vcl/forms/Application.h"
 #include "tests/support/Pump.h"
 
 namespace test {
@@ -43,6 +44,8 @@ void WarmUpSystem() {
 }
 
 void Settle() {
+    // These live as long as the process.
+    (void)vcl::Application();
     WarmUpSystem();
     for (const auto& action : Actions())
         action();

@@ -37,12 +37,24 @@ void CALLBACK RunStep(HWND, UINT, UINT_PTR, DWORD) {
     step.Action();
 }
 
+MessageLoop*& CurrentLoop() {
+    thread_local MessageLoop* loop = nullptr;
+    return loop;
+}
+
 void Handle(MSG& message) {
+    if (CurrentLoop()) return CurrentLoop()->Handle(message);
     TranslateMessage(&message);
     DispatchMessageW(&message);
 }
 
 }  // namespace
+
+MessageLoop::MessageLoop() : FOuter(std::exchange(CurrentLoop(), this)) {}
+
+MessageLoop::~MessageLoop() {
+    CurrentLoop() = FOuter;
+}
 
 void PumpAll() {
     MSG message;
@@ -55,6 +67,7 @@ bool PumpUntil(const std::function<bool()>& condition, std::chrono::milliseconds
     for (;;) {
         PumpAll();
         if (condition()) return true;
+        if (CurrentLoop()) CurrentLoop()->Idle();
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now()).count();
         if (left <= 0) return false;
         // Conditions may depend on other threads too, so look again now and then without any message.

@@ -10,6 +10,22 @@ namespace test {
 /// How long a wait may take before it counts as failed. Reached only by failing tests.
 inline constexpr std::chrono::milliseconds WaitLimit{5000};
 
+/// What pumping does with each message, for as long as the object exists; without one messages are translated
+/// and dispatched. `FormTest` puts the application's loop here.
+class MessageLoop {
+public:
+    MessageLoop();
+    virtual ~MessageLoop();
+    MessageLoop(const MessageLoop&) = delete;
+    MessageLoop& operator=(const MessageLoop&) = delete;
+    virtual void Handle(MSG& message) = 0;
+    /// The queue is empty and the condition waited for does not hold yet.
+    virtual void Idle() {}
+
+private:
+    MessageLoop* FOuter;
+};
+
 /// Handles all messages that stand in the calling thread's queue, and those that handling them adds.
 void PumpAll();
 

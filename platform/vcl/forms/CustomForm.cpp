@@ -152,6 +152,10 @@ void TCustomForm::Dispatch(TMessage& message) {
 
 // --- painting
 
+TCanvas& TCustomForm::GetCanvas() const {
+    return *FCanvas;
+}
+
 void TCustomForm::PaintWindow(HDC dc) {
     const TCanvasBinding binding(*FCanvas, *this, dc);
     if (FDesigner)

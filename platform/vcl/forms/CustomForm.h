@@ -10,6 +10,7 @@
 namespace vcl {
 
 class TCanvas;
+class TControlCanvas;
 class TIcon;
 class TWindowMenu;
 
@@ -87,7 +88,7 @@ public:
     /// The resolution at which the form was designed; forms are not scaled.
     [[nodiscard]] int GetPixelsPerInch() const { return FPixelsPerInch; }
     void SetPixelsPerInch(int value) { FPixelsPerInch = value; }
-    [[nodiscard]] TCanvas& GetCanvas() const { return *FCanvas; }
+    [[nodiscard]] TCanvas& GetCanvas() const;
 
     // --- focus (FormFocus.cpp)
     // --------------------------------------------------------------------------------------
@@ -197,7 +198,7 @@ private:
     void CmDialogKey(TMessage& message);
     [[nodiscard]] bool OfferToMenu(TMessage& message);
 
-    std::unique_ptr<TCanvas> FCanvas;
+    std::unique_ptr<TControlCanvas> FCanvas;
     std::unique_ptr<TIcon> FIcon;
     TWindowMenu* FMenu = nullptr;
     TDesignHook* FDesigner = nullptr;
