@@ -14,7 +14,7 @@ wine_ready() {
     export WINEDEBUG=${WINEDEBUG:--all} WINEDLLOVERRIDES=${WINEDLLOVERRIDES:-mscoree,mshtml=}
     choose_prefix "$driver"
     [ "$driver" = x11 ] || unset DISPLAY
-    start_server
+    start_server "$driver"
 }
 
 choose_prefix() {
@@ -24,10 +24,13 @@ choose_prefix() {
     fi
     export WINEPREFIX=$ROOT/build/wp
     [ "$1" = null ] || WINEPREFIX+=-$1
-    if [ ! -f "$WINEPREFIX/.ready" ]; then
-        say "Making the Wine prefix ${WINEPREFIX#"$ROOT"/}"
-        scripts/wine-prefix "$WINEPREFIX" "$1" || fail "Wine could not set up $WINEPREFIX"
-    fi
+    [ -f "$WINEPREFIX/.ready" ] || make_prefix "$1"
+}
+
+make_prefix() {
+    say "Making the Wine prefix ${WINEPREFIX#"$ROOT"/}"
+    scripts/wine-prefix "$WINEPREFIX" "$1" &
+    wait $! || fail "Wine could not set up $WINEPREFIX"
 }
 
 # The server stays between programs, so that each starts in a hundredth of a second. Wine's services inherit the output
@@ -37,8 +40,15 @@ start_server() {
     USER_MARK=build/wine-users/$(basename "$WINEPREFIX").$$
     : >"$USER_MARK"
     wineserver -k0 >/dev/null 2>&1 || SERVER_STARTED=yes
+    wake_wine && return
+    [ -z "$GIVEN_PREFIX" ] || fail "Wine does not start in $WINEPREFIX"
+    make_prefix "$1"
+    wake_wine || fail "Wine does not start in $WINEPREFIX"
+}
+
+wake_wine() {
     setsid wineserver -p >/dev/null 2>&1 </dev/null || true
-    timeout 60 wine cmd /c exit >/dev/null 2>&1 </dev/null || fail "Wine does not start in $WINEPREFIX"
+    timeout 60 wine cmd /c exit >/dev/null 2>&1 </dev/null
 }
 
 # The last run to leave stops the server, unless it was there before the first.
