@@ -45,7 +45,6 @@ std::optional<TDirectBits> TBitmapCanvas::DirectBits() {
     if (::GetMapMode(dc) != MM_TEXT || ::GetClipBox(dc, clip.AsRect()) == COMPLEXREGION) return std::nullopt;
     if (!::GetViewportOrgEx(dc, &origin) || origin.x || origin.y) return std::nullopt;
     if (!::GetWindowOrgEx(dc, &origin) || origin.x || origin.y) return std::nullopt;
-    Changing();
     return TDirectBits{FBitmap.WriteBits(), clip};
 }
 

@@ -157,8 +157,8 @@ public:
     /// The rectangle around all that drawing can reach.
     [[nodiscard]] TRect GetClipRect();
     /// The memory under the canvas, where writing to it does the same as drawing: on a bitmap of 24 or 32
-    /// bits without a complex clip region or shifted coordinates. Announces a change of the bitmap. None
-    /// elsewhere.
+    /// bits without a complex clip region or shifted coordinates. None elsewhere. Write inside of
+    /// `DrawDirectly`, which announces the change.
     [[nodiscard]] virtual std::optional<TDirectBits> DirectBits() { return std::nullopt; }
 
 protected:
