@@ -51,7 +51,7 @@ command_bench() {
     need build wine
     need_program bench
     wine_ready null
-    WINE_TIMEOUT=1800 wine_run bench "$@"
+    WINE_TIMEOUT=1800 wine_run bench --json build/bench.json "$@"
 }
 
 command_shots() {
