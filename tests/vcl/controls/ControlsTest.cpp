@@ -20,7 +20,7 @@ void TProbeWindow::Dispatch(TMessage& message) {
     if (MessageHook) {
         const TLifeGuard guard(*this);
         MessageHook(message);
-        if (!guard.IsAlive()) return;
+        if (!guard.IsAlive() || message.Msg == WM_NULL) return;
     }
     TCustomControl::Dispatch(message);
 }

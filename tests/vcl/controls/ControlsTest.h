@@ -19,12 +19,12 @@ namespace test {
 
 using namespace vcl;
 
-/// Says whether the control with `TLifeGuard`'s knowledge was freed, counts what it sees and paints itself in
-/// its colour.
+/// Counts what happens to it and paints itself in its colour.
 class TProbeWindow : public TCustomControl {
 public:
     using TCustomControl::TCustomControl;
     std::function<void()> PaintHook;
+    /// Sees each message first; it keeps one for itself by making it WM_NULL.
     std::function<void(TMessage&)> MessageHook;
     int Paints = 0;
     int Resizes = 0;

@@ -36,7 +36,8 @@ TEST_P(AlignTable, PlacesTwoChildrenOneAfterTheOther) {
 
 INSTANTIATE_TEST_SUITE_P(Layout, AlignTable,
                          testing::Values(AlignCase{"Top", alTop, {0, 0, 400, 20}, {0, 20, 400, 30}},
-                                         AlignCase{"Bottom", alBottom, {0, 280, 400, 300}, {0, 270, 400, 280}},
+                                         AlignCase{
+                                             "Bottom", alBottom, {0, 280, 400, 300}, {0, 270, 400, 280}},
                                          AlignCase{"Left", alLeft, {0, 0, 50, 300}, {50, 0, 80, 300}},
                                          AlignCase{"Right", alRight, {350, 0, 400, 300}, {320, 0, 350, 300}},
                                          AlignCase{"Client", alClient, {0, 0, 400, 300}, {0, 0, 400, 300}}),
