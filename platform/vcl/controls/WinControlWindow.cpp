@@ -149,8 +149,10 @@ void TWinControl::DestroyWindowHandle() {
     const TStateScope destroying(*this, csDestroyingHandle);
     const HWND window = FHandle;
     if (!window) return;
+    const TLifeGuard guard(*this);
     ::DestroyWindow(window);
     DetachWindow(window);
+    if (!guard.IsAlive()) return;
     FHandle = nullptr;
     FShowing = false;
     FFocused = false;
