@@ -10,7 +10,7 @@ namespace {
 LRESULT DialogCodeOf(WORD key) {
     switch (key) {
         case VK_TAB:
-            return DLGC_WANTTAB | DLGC_WANTALLKEYS;
+            return DLGC_WANTTAB;
         case VK_LEFT:
         case VK_RIGHT:
         case VK_UP:
