@@ -59,7 +59,8 @@ private:
 };
 
 /// Runs the action in a second thread that sees the windows and the input of the calling one, which handles
-/// messages meanwhile until it has finished. For loops of the system that handle no steps of `Later`.
+/// messages meanwhile until it has finished. For loops of the system that wait for the next input themselves,
+/// such as the one between press and release on a scroll bar.
 void FromOtherThread(const std::function<void()>& action);
 
 }  // namespace test

@@ -1,13 +1,11 @@
 #include "tests/support/LedgerTest.h"
 
-#include <windows.h>
-
-#include <utility>
 #include <vector>
 
 #include "platform/vcl/core/Ledger.h"
 #include "platform/vcl/forms/Application.h"
 #include "tests/support/Pump.h"
+#include "tests/support/WarmUp.h"
 
 namespace test {
 namespace {
@@ -15,32 +13,6 @@ namespace {
 std::vector<std::function<void()>>& Actions() {
     static std::vector<std::function<void()>> actions;
     return actions;
-}
-
-void OpenAMenu(HWND owner) {
-    const HMENU menu = CreatePopupMenu();
-    AppendMenuW(menu, MF_STRING, 1, L"x");
-    Later([] { EndMenu(); });
-    TrackPopupMenu(menu, 0, 0, 0, 0, owner, nullptr);
-    DestroyMenu(menu);
-}
-
-/// The first windows of a process make the system create objects that stay: brushes, fonts, theme data.
-/// Having made one window of each common kind once, counts are exact.
-void WarmUpSystem() {
-    static bool done = false;
-    if (std::exchange(done, true)) return;
-    for (int color = 0; color <= COLOR_MENUBAR; ++color)
-        GetSysColorBrush(color);
-    const HWND top = CreateWindowExW(0, L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 200,
-                                     nullptr, nullptr, nullptr, nullptr);
-    for (const wchar_t* name : {L"Button", L"Edit", L"ListBox", L"ComboBox", L"ScrollBar", L"Static"})
-        CreateWindowExW(0, name, L"x", WS_CHILD | WS_VISIBLE, 0, 0, 50, 50, top, nullptr, nullptr, nullptr);
-    RedrawWindow(top, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
-    PumpAll();
-    OpenAMenu(top);
-    DestroyWindow(top);
-    PumpAll();
 }
 
 void Settle() {

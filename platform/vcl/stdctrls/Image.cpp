@@ -124,6 +124,16 @@ void TImage::Paint() {
     FDrawing = false;
 }
 
+void TImage::Resize() {
+    UpdateOpacity();
+    TGraphicControl::Resize();
+}
+
+void TImage::Loaded() {
+    TGraphicControl::Loaded();
+    UpdateOpacity();
+}
+
 void TImage::PictureChanged(TObject*) {
     if (FDrawing) return;
     if (TGraphic* graphic = FPicture->GetGraphic()) {

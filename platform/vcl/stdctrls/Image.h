@@ -46,6 +46,8 @@ public:
 protected:
     bool CanAutoSize(int& newWidth, int& newHeight) override;
     void Paint() override;
+    void Resize() override;
+    void Loaded() override;
 
 private:
     void PictureChanged(TObject* sender);

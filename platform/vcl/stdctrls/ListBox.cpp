@@ -173,7 +173,9 @@ TCustomListBox::TPlace TCustomListBox::PresentPlace() const {
     TPlace place;
     place.Current = GetItemIndex();
     place.Top = GetTopIndex();
-    if (FMultiSelect) {
+    if (!SelectsSeveral()) {
+        if (place.Current >= 0) place.Selected = {place.Current};
+    } else {
         place.Selected.resize(static_cast<std::size_t>(GetSelCount()));
         Send(LB_GETSELITEMS, place.Selected.size(), reinterpret_cast<LPARAM>(place.Selected.data()));
     }
@@ -181,8 +183,10 @@ TCustomListBox::TPlace TCustomListBox::PresentPlace() const {
 }
 
 void TCustomListBox::Restore(const TPlace& place) {
-    for (const int index : place.Selected)
-        Send(LB_SETSEL, TRUE, index);
+    if (SelectsSeveral()) {
+        for (const int index : place.Selected)
+            Send(LB_SETSEL, TRUE, index);
+    }
     SetItemIndex(place.Current);
     SetTopIndex(place.Top);
 }
@@ -208,15 +212,21 @@ void TCustomListBox::CheckIndex(int index) const {
     if (index < 0 || index >= GetCount()) throw EListError(Format(L"List index out of bounds (%d)", index));
 }
 
+/// As the window was made, which lags behind the property while the window is made anew.
+bool TCustomListBox::SelectsSeveral() const {
+    return HandleAllocated() ? (::GetWindowLongW(WindowHandle(), GWL_STYLE) & LBS_MULTIPLESEL) != 0
+                             : FMultiSelect;
+}
+
 int TCustomListBox::GetItemIndex() const {
     if (!HandleAllocated()) return FPlace.Current;
-    return static_cast<int>(Send(FMultiSelect ? LB_GETCARETINDEX : LB_GETCURSEL));
+    return static_cast<int>(Send(SelectsSeveral() ? LB_GETCARETINDEX : LB_GETCURSEL));
 }
 
 void TCustomListBox::SetItemIndex(int value) {
     FPlace.Current = value;
     if (!HandleAllocated()) return;
-    if (FMultiSelect)
+    if (SelectsSeveral())
         Send(LB_SETCARETINDEX, static_cast<WPARAM>(value));
     else
         Send(LB_SETCURSEL, static_cast<WPARAM>(value));
@@ -225,12 +235,12 @@ void TCustomListBox::SetItemIndex(int value) {
 bool TCustomListBox::GetSelected(int index) const {
     CheckIndex(index);
     if (HandleAllocated()) return Send(LB_GETSEL, static_cast<WPARAM>(index)) > 0;
-    return FMultiSelect ? std::ranges::count(FPlace.Selected, index) > 0 : FPlace.Current == index;
+    return SelectsSeveral() ? std::ranges::count(FPlace.Selected, index) > 0 : FPlace.Current == index;
 }
 
 void TCustomListBox::SetSelected(int index, bool value) {
     CheckIndex(index);
-    if (!FMultiSelect)
+    if (!SelectsSeveral())
         SetItemIndex(value ? index : -1);
     else if (HandleAllocated())
         Send(LB_SETSEL, value, index);
@@ -239,7 +249,7 @@ void TCustomListBox::SetSelected(int index, bool value) {
 }
 
 int TCustomListBox::GetSelCount() const {
-    if (!FMultiSelect) return GetItemIndex() >= 0 ? 1 : 0;
+    if (!SelectsSeveral()) return GetItemIndex() >= 0 ? 1 : 0;
     return HandleAllocated() ? static_cast<int>(Send(LB_GETSELCOUNT))
                              : static_cast<int>(FPlace.Selected.size());
 }

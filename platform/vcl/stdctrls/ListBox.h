@@ -66,6 +66,7 @@ private:
     [[nodiscard]] TPlace PresentPlace() const;
     void Restore(const TPlace& place);
     void FillWindow();
+    [[nodiscard]] bool SelectsSeveral() const;
     void CheckIndex(int index) const;
 
     std::unique_ptr<TItems> FItems;

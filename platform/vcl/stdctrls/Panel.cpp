@@ -42,6 +42,7 @@ TCustomPanel::TCustomPanel(TComponent* AOwner) : TCustomControl(AOwner) {
                     csOpaque,          csDoubleClicks, csReplicatable};
     SetBounds(0, 0, 185, 41);
     SetColor(clBtnFace);
+    SetParentColor(false);
 }
 
 void TCustomPanel::SetAlignment(TAlignment value) {

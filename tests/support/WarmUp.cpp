@@ -1,0 +1,73 @@
+#include "tests/support/WarmUp.h"
+
+#include <windows.h>
+
+#include <uxtheme.h>
+
+#include <utility>
+
+#include "tests/support/Pump.h"
+
+namespace test {
+namespace {
+
+constexpr int HighestPart = 16;
+constexpr int HighestState = 12;
+
+void LoadThemePictures() {
+    const HDC dc = CreateCompatibleDC(nullptr);
+    for (const wchar_t* name : {L"BUTTON", L"COMBOBOX", L"EDIT", L"HEADER", L"LISTVIEW", L"MENU", L"PROGRESS",
+                                L"SCROLLBAR", L"SPIN", L"TOOLTIP", L"TRACKBAR", L"TREEVIEW"}) {
+        const HTHEME theme = OpenThemeData(nullptr, name);
+        if (!theme) continue;
+        const RECT rect{0, 0, 1, 1};
+        for (int part = 1; part <= HighestPart; ++part) {
+            if (!IsThemePartDefined(theme, part, 0)) continue;
+            for (int state = 0; state <= HighestState; ++state)
+                DrawThemeBackground(theme, dc, part, state, &rect, nullptr);
+        }
+        CloseThemeData(theme);
+    }
+    DeleteDC(dc);
+}
+
+void MakeSystemBrushes() {
+    for (int color = 0; color <= COLOR_MENUBAR; ++color)
+        GetSysColorBrush(color);
+}
+
+void OpenAMenu(HWND owner) {
+    const HMENU menu = CreatePopupMenu();
+    AppendMenuW(menu, MF_STRING, 1, L"x");
+    Later([] { EndMenu(); });
+    TrackPopupMenu(menu, 0, 0, 0, 0, owner, nullptr);
+    DestroyMenu(menu);
+}
+
+void ShowWindows() {
+    const HWND top = CreateWindowExW(0, L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 200,
+                                     nullptr, nullptr, nullptr, nullptr);
+    int left = 0;
+    for (const wchar_t* name : {L"Button", L"Edit", L"ListBox", L"ComboBox", L"Static", L"ScrollBar"}) {
+        CreateWindowExW(0, name, L"x", WS_CHILD | WS_VISIBLE, left, 0, 40, 40, top, nullptr, nullptr,
+                        nullptr);
+        left += 40;
+    }
+    RedrawWindow(top, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
+    PumpAll();
+    OpenAMenu(top);
+    DestroyWindow(top);
+    PumpAll();
+}
+
+}  // namespace
+
+void WarmUpSystem() {
+    static bool done = false;
+    if (std::exchange(done, true)) return;
+    MakeSystemBrushes();
+    LoadThemePictures();
+    ShowWindows();
+}
+
+}  // namespace test

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace test {
+
+/// Makes the system create, once per process, what it keeps after its first use: stock brushes, menus, the
+/// pictures of the theme. From then on counts of its objects are exact.
+void WarmUpSystem();
+
+}  // namespace test

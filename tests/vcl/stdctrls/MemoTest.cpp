@@ -1,0 +1,90 @@
+#include "platform/vcl/stdctrls/Memo.h"
+
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/stdctrls/Button.h"
+#include "tests/support/FormTest.h"
+
+namespace test {
+namespace {
+
+using namespace vcl;
+
+class MemoTest : public FormTest {
+protected:
+    void SetUp() override {
+        FormTest::SetUp();
+        Memo = Make<TMemo>({10, 10, 150, 110});
+    }
+    /// The same steps must leave the same text with a window and without.
+    void ExpectText(const std::function<void(TStrings&)>& steps, const String& expected) {
+        TMemo without(nullptr);
+        steps(without.Lines());
+        EXPECT_EQ(without.GetText(), expected) << "without a window";
+        Memo->Clear();
+        steps(Memo->Lines());
+        EXPECT_EQ(Memo->GetText(), expected) << "with a window";
+    }
+    TMemo* Memo = nullptr;
+};
+
+TEST_F(MemoTest, LinesAreAddedInsertedReplacedAndDeleted) {
+    ExpectText([](TStrings& lines) { lines.Add(L"a"), lines.Add(L"b"); }, L"a\r\nb");
+    ExpectText([](TStrings& lines) { lines.Add(L"b"), lines.Insert(0, L"a"); }, L"a\r\nb");
+    ExpectText([](TStrings& lines) { lines.Add(L"a"), lines.Add(L"b"), lines.Put(0, L"xyz"); }, L"xyz\r\nb");
+    ExpectText([](TStrings& lines) { lines.Add(L"a"), lines.Add(L"b"), lines.Delete(0); }, L"b");
+    ExpectText([](TStrings& lines) { lines.Add(L"a"), lines.Add(L"b"), lines.Delete(1); }, L"a");
+    ExpectText([](TStrings& lines) { lines.Add(L"a"), lines.Add(L"b"), lines.Clear(); }, L"");
+}
+
+TEST_F(MemoTest, LinesDoNotCountWrapping) {
+    Memo->SetText(L"a very long line that has to be wrapped in so small a window\r\nsecond");
+    EXPECT_EQ(Memo->Lines().GetCount(), 2);
+    EXPECT_EQ(Memo->Lines().Get(1), L"second");
+    EXPECT_THROW((void)Memo->Lines().Get(2), EStringListError);
+}
+
+TEST_F(MemoTest, EnterMakesALineOrClicksTheDefaultButton) {
+    int clicks = 0;
+    auto* button = Make<TButton>({200, 10, 270, 30});
+    button->SetDefault(true);
+    button->OnClick = [&](TObject*) { ++clicks; };
+    Memo->SetFocus();
+    Input.Type(L"a");
+    Input.KeyPress(VK_RETURN);
+    Input.Type(L"b");
+    EXPECT_EQ(Memo->GetText(), L"a\r\nb");
+    EXPECT_EQ(clicks, 0);
+    Memo->SetWantReturns(false);
+    Input.KeyPress(VK_RETURN);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(Memo->GetText(), L"a\r\nb");
+}
+
+TEST_F(MemoTest, TabMovesTheFocusUnlessItIsWanted) {
+    auto* button = Make<TButton>({200, 10, 270, 30});
+    Memo->SetFocus();
+    Input.KeyPress(VK_TAB);
+    EXPECT_TRUE(button->Focused());
+    Memo->SetWantTabs(true);
+    Memo->SetFocus();
+    Input.KeyPress(VK_TAB);
+    EXPECT_TRUE(Memo->Focused());
+    EXPECT_EQ(Memo->GetText(), L"\t");
+}
+
+TEST_F(MemoTest, TheCaretHasLineAndColumn) {
+    Memo->SetText(L"abc\r\ndefg");
+    Memo->SetCaretPos({2, 1});
+    EXPECT_EQ(Memo->GetCaretPos(), TPoint(2, 1));
+    EXPECT_EQ(Memo->GetSelStart(), 7);
+}
+
+TEST_F(MemoTest, ANewWindowKeepsTheText) {
+    Memo->SetText(L"a\r\nb");
+    Memo->SetScrollBars(ssBoth);
+    EXPECT_EQ(Memo->GetText(), L"a\r\nb");
+    EXPECT_TRUE(GetWindowLongW(Memo->WindowHandle(), GWL_STYLE) & WS_VSCROLL);
+}
+
+}  // namespace
+}  // namespace test
