@@ -55,7 +55,8 @@ WORDS = (
 
 # Tests that do not test, and waiting for time instead of for a condition.
 EMPTY_TESTS = (
-    (r"\bGTEST_SKIP\b|\bDISABLED_", "is skipped"),
+    # A build without the ledger, say, cannot test the ledger: it may say so.
+    (r"\bGTEST_SKIP\b(?!\(\) << \"this build)|\bDISABLED_", "is skipped"),
     (r"\b(?:EXPECT|ASSERT)_TRUE\(true\)|\b(?:EXPECT|ASSERT)_FALSE\(false\)|\bSUCCEED\(", "cannot fail"),
     (r"\b(?:EXPECT|ASSERT)_EQ\((\w+), \1\)", "cannot fail"),
 )

@@ -44,7 +44,12 @@ TCollectionItem* TCollection::Add() {
     }
     FAdding = false;
     if (!item) throw EInvalidOperation(Format(L"Items of class %s can't be made", FItemClass->ClassName()));
-    Notify(item, cnAdded);
+    try {
+        Notify(item, cnAdded);
+    } catch (...) {
+        delete item;
+        throw;
+    }
     Changed();
     return item;
 }

@@ -12,7 +12,14 @@ const TMetaClass& TCollectionItem::StaticClass() {
 }
 
 TCollectionItem::TCollectionItem(TCollection* ACollection) {
-    if (ACollection) ACollection->InsertItem(this);
+    if (!ACollection) return;
+    try {
+        ACollection->InsertItem(this);
+    } catch (...) {
+        // The destructor will not run.
+        std::erase(ACollection->FItems, this);
+        throw;
+    }
 }
 
 TCollectionItem::~TCollectionItem() {

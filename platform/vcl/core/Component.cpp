@@ -18,7 +18,14 @@ const TMetaClass& TComponent::StaticClass() {
 }
 
 TComponent::TComponent(TComponent* AOwner) {
-    if (AOwner) AOwner->InsertComponent(this);
+    if (!AOwner) return;
+    try {
+        AOwner->InsertComponent(this);
+    } catch (...) {
+        // The destructor will not run.
+        if (FOwner) FOwner->Unlist(this);
+        throw;
+    }
 }
 
 TComponent::~TComponent() {
@@ -106,7 +113,10 @@ void TComponent::RemoveComponent(TComponent* component) {
     if (!component || component->FOwner != this) return;
     ValidateRename(component, component->FName, {});
     Notification(component, opRemove);
-    if (component->FOwner != this) return;
+    if (component->FOwner == this) Unlist(component);
+}
+
+void TComponent::Unlist(TComponent* component) {
     // Mostly it is the last one that goes.
     const auto place = std::find(FComponents.rbegin(), FComponents.rend(), component);
     FComponents.erase(std::next(place).base());

@@ -108,7 +108,8 @@ protected:
     void DefineProperties(TFiler& filer) override;
     /// Tells that `component` came to (opInsert) or is leaving (opRemove) this component's surroundings: what
     /// the owner hears, all that it owns hears too. The component may be under construction or half
-    /// destroyed, so compare the pointer and ask it nothing but what `TComponent` offers.
+    /// destroyed, so compare the pointer and ask it nothing but what `TComponent` offers. Must not raise at
+    /// opRemove, which destructors announce.
     virtual void Notification(TComponent* component, TOperation operation);
     /// Called once after all properties have been read from a form file; clears csLoading.
     virtual void Loaded();
@@ -124,6 +125,7 @@ protected:
 
 private:
     [[nodiscard]] bool OwnsOrIs(const TComponent* component) const;
+    void Unlist(TComponent* component);
 
     TComponent* FOwner = nullptr;
     String FName;

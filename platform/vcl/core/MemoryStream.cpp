@@ -73,9 +73,11 @@ void TMemoryStream::SetSize(std::int64_t size) {
 }
 
 void TMemoryStream::LoadFromStream(TStream& stream) {
-    SetSize(stream.GetSize());
-    stream.SetPosition(0);
-    stream.ReadBuffer(FStorage.data(), FStorage.size());
+    if (&stream != this) {
+        SetSize(stream.GetSize());
+        stream.SetPosition(0);
+        stream.ReadBuffer(FStorage.data(), FStorage.size());
+    }
     FPosition = 0;
 }
 

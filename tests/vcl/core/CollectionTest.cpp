@@ -55,10 +55,12 @@ public:
     }
     /// What was heard: u and U for updates of one and of all, a, e, d for added, extracting, deleting.
     std::string Log;
+    bool RefusesItems = false;
 
 protected:
     void Update(TCollectionItem* item) override { Log += item ? 'u' : 'U'; }
     void Notify(TCollectionItem* item, TCollectionNotification action) override {
+        if (RefusesItems && action == cnAdded) throw 1;
         Log += action == cnAdded ? 'a' : action == cnExtracting ? 'e' : 'd';
         // Only a whole item can be asked for what its class adds.
         if (dynamic_cast<TPart*>(item)) Log += '!';
@@ -263,6 +265,13 @@ TEST_F(CollectionTest, IsAPublishedNestedProperty) {
     EXPECT_EQ(row->Kind(), TPropertyKind::Nested);
     row->Set(owner, static_cast<TPersistent*>(&FParts));
     EXPECT_EQ(owner.Parts().Sizes(), "123");
+}
+
+TEST_F(CollectionTest, AnItemThatTheCollectionRefusesIsNotListed) {
+    FParts.RefusesItems = true;
+    EXPECT_THROW(new TPart(&FParts), int);
+    EXPECT_THROW(FParts.Add(), int);
+    EXPECT_EQ(FParts.Sizes(), "123");
 }
 
 }  // namespace

@@ -177,5 +177,13 @@ TEST_F(ComponentNotificationTest, AListenerMayFreeItself) {
     EXPECT_TRUE(freed);
 }
 
+TEST_F(ComponentNotificationTest, AComponentThatTheOwnerRefusesIsNotListed) {
+    FOwner->OnNotify = [](TComponent*, TOperation operation) {
+        if (operation == opInsert) throw 1;
+    };
+    EXPECT_THROW(new TComponent(FOwner.get()), int);
+    EXPECT_EQ(FOwner->GetComponentCount(), 0);
+}
+
 }  // namespace
 }  // namespace vcl

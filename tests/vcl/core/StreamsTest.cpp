@@ -111,9 +111,9 @@ TEST_F(MemoryStreamTest, LoadsAndSavesWholeStreams) {
     source.SetSize(0);
     FStream.SaveToStream(source);
     EXPECT_EQ(Contents(source), "abc");
-    FStream.Clear();
     FStream.LoadFromStream(FStream);
-    EXPECT_EQ(FStream.GetSize(), 0);
+    EXPECT_EQ(FStream.GetPosition(), 0);
+    EXPECT_EQ(Contents(FStream), "abc");
 }
 
 class FileStreamTest : public test::LedgerTest {
