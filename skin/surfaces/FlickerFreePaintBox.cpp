@@ -71,10 +71,14 @@ void TFlickerFreePaintBox::Repaint() {
     canvas.FillRect({0, 0, FBuffer->GetWidth(), FBuffer->GetHeight()});
 
     const TLifeGuard guard(*this);
+    const std::shared_ptr<TBitmap> painted = FBuffer;
     DoFFPaint();
     if (!guard.IsAlive()) return;
-    FNeedsPaint = false;
-    PaintNow();
+    FNeedsPaint = FBuffer != painted;  // the handler changed the size, and so the buffer
+    if (FNeedsPaint)
+        Invalidate();
+    else
+        PaintNow();
 }
 
 void TFlickerFreePaintBox::ApplyDeform(long double ScaleX, long double ScaleY, long double Alpha) {

@@ -1,0 +1,168 @@
+#include "skin/utils/OneShotDrawing.h"
+
+#include "platform/vcl/graphics/Canvas.h"
+#include "platform/vcl/graphics/DeviceContexts.h"
+#include "skin/utils/RasterSteps.h"
+#include "tests/skin/SkinTesting.h"
+
+namespace qv7skin {
+namespace {
+
+using probes::BitmapOf;
+using probes::Magenta;
+using probes::MessageOf;
+using probes::PixelsOf;
+using probes::RandomColors;
+using test::Pixels;
+
+class OneShotDrawingTest : public test::LedgerTest {
+protected:
+    void SetUp() override {
+        LedgerTest::SetUp();
+        FPicture = RandomColors(1).Picture(9, 7, {Magenta, 0x00123456, 0x00FEDCBA, clBlack, clWhite});
+        FGround = RandomColors(2).Picture(20, 16);
+    }
+    [[nodiscard]] Pixels Expected(int x0, int y0, int width, int height) const {
+        Pixels result = FGround;
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                if (const COLORREF c = FPicture.At(x, y); c != Magenta && c != CLR_INVALID)
+                    probes::SetInside(result, x0 + x, y0 + y, c);
+        return result;
+    }
+    Pixels FPicture, FGround;
+};
+
+TEST_F(OneShotDrawingTest, DrawsEverythingButTheTransparentColor) {
+    for (const TPixelFormat from : {pf24bit, pf32bit})
+        for (const TPixelFormat to : {pf24bit, pf32bit}) {
+            const auto bitmap = BitmapOf(FPicture, from);
+            const auto ground = BitmapOf(FGround, to);
+            DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 5, 3, Magenta);
+            EXPECT_TRUE(SamePixels(PixelsOf(*ground), Expected(5, 3, 9, 7)));
+        }
+}
+
+TEST_F(OneShotDrawingTest, TheCallersBitmapIsAsBefore) {
+    const auto bitmap = BitmapOf(FPicture);
+    const auto ground = BitmapOf(FGround);
+    DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 5, 3, Magenta);
+    EXPECT_TRUE(SamePixels(PixelsOf(*bitmap), FPicture));
+}
+
+TEST_F(OneShotDrawingTest, ABitmapThatWasDrawnOnIsDrawnToo) {
+    // Its canvas may still hold the bitmap selected.
+    const auto bitmap = BitmapOf(FPicture);
+    bitmap->GetCanvas().SetPixel(0, 0, clAqua);
+    FPicture.Set(0, 0, clAqua);
+    const auto ground = BitmapOf(FGround);
+    DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 0, 0, Magenta);
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), Expected(0, 0, 9, 7)));
+}
+
+TEST_F(OneShotDrawingTest, WidthAndHeightCutAndNeverScale) {
+    const auto bitmap = BitmapOf(FPicture);
+    for (const TSize size : {TSize(4, 3), TSize(4, 0), TSize(0, 3), TSize(0, 0)}) {
+        const auto ground = BitmapOf(FGround);
+        DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 2, 1, size.Width, size.Height, Magenta);
+        EXPECT_TRUE(SamePixels(PixelsOf(*ground),
+                               Expected(2, 1, size.Width ? size.Width : 9, size.Height ? size.Height : 7)));
+    }
+}
+
+TEST_F(OneShotDrawingTest, ALargerSizeDrawsWhatThereIs) {
+    const auto bitmap = BitmapOf(FPicture);
+    const auto ground = BitmapOf(FGround);
+    DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 2, 1, 15, 12, Magenta);
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground).Part({2, 1, 11, 8}), Expected(2, 1, 9, 7).Part({2, 1, 11, 8})));
+}
+
+TEST_F(OneShotDrawingTest, DrawsOverTheEdges) {
+    const auto bitmap = BitmapOf(FPicture);
+    for (const TPoint place : {TPoint(-3, -2), TPoint(15, 12)}) {
+        const auto ground = BitmapOf(FGround);
+        DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), place.X, place.Y, Magenta);
+        EXPECT_TRUE(SamePixels(PixelsOf(*ground), Expected(place.X, place.Y, 9, 7)));
+    }
+}
+
+TEST_F(OneShotDrawingTest, ASystemColorIsLookedUp) {
+    const COLORREF face = ColorToRGB(clBtnFace);
+    const auto bitmap = BitmapOf(3, 3, face);
+    const auto ground = BitmapOf(FGround);
+    DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 2, 1, clBtnFace);
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), FGround));
+}
+
+TEST_F(OneShotDrawingTest, NothingToDrawDoesNothing) {
+    const auto ground = BitmapOf(FGround);
+    DrawTransparentBitmap(ground->GetCanvas(), nullptr, 0, 0, Magenta);
+    TBitmap empty;
+    DrawTransparentBitmap(ground->GetCanvas(), &empty, 0, 0, Magenta);
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), FGround));
+}
+
+// --- Failing steps
+
+int callsUntilFailure = 0;
+
+BOOL WINAPI FailingBlit(HDC to, int x, int y, int width, int height, HDC from, int fromX, int fromY,
+                        DWORD operation) {
+    if (callsUntilFailure-- == 0) return FALSE;
+    return BitBlt(to, x, y, width, height, from, fromX, fromY, operation);
+}
+
+struct Step {
+    const wchar_t* Message;
+    int Line;
+};
+constexpr Step Steps[] = {
+    {L"BitBlt: Save the bitmap", 319},
+    {L"BitBlt: Create object mask", 328},
+    {L"BitBlt: Create inverse object mask", 335},
+    {L"BitBlt: Copy background of main dc", 339},
+    {L"BitBlt: Copy background of main dc", 343},
+    {L"BitBlt: Mask out transparent pixels", 347},
+    {L"BitBlt: XOR with background", 351},
+    {L"BitBlt: Copy destination to screen", 360},
+    {L"BitBlt: Restore original bitmap", 364},
+};
+
+class FailingStepTest : public OneShotDrawingTest, public ::testing::WithParamInterface<int> {};
+
+TEST_P(FailingStepTest, RaisesItsMessageAndLeavesNothingBehind) {
+    const int step = GetParam();
+    const auto bitmap = BitmapOf(FPicture);
+    const auto ground = BitmapOf(FGround);
+    const HDC canvas = ground->GetCanvas().GetHandle();
+    const HBITMAP picture = bitmap->GetHandle();
+    const auto before = test::ResourceSnapshot::Take();
+    callsUntilFailure = step;
+    const String text = MessageOf<EAssertionFailed>(
+        [&] { DrawTransparentSteps(canvas, picture, 0, 0, 0, 0, Magenta, FailingBlit); });
+    EXPECT_EQ(before.ChangeSince(), "");
+    EXPECT_EQ(text, Format(L"%s (Common/UnitGraphicsUtils, line %d)", Steps[step].Message, Steps[step].Line));
+    EXPECT_EQ(callsUntilFailure, -1);  // no step after the failing one
+
+    // The canvas shows the picture once the step that copies it there was done.
+    const bool shows = Steps[step].Line > 360;
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), shows ? Expected(0, 0, 9, 7) : FGround));
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, FailingStepTest, ::testing::Range(0, static_cast<int>(std::size(Steps))));
+
+TEST_F(OneShotDrawingTest, ACanvasWithoutDeviceContextFailsInTheFirstStep) {
+    const auto bitmap = BitmapOf(FPicture);
+    HDC gone = nullptr;
+    {
+        const TMemoryDC dc = CreateMemoryDC();
+        gone = dc.Get();
+    }
+    const String text = MessageOf<EAssertionFailed>(
+        [&] { DrawTransparentSteps(gone, bitmap->GetHandle(), 0, 0, 0, 0, Magenta); });
+    EXPECT_EQ(text, L"BitBlt: Save the bitmap (Common/UnitGraphicsUtils, line 319)");
+    EXPECT_TRUE(SamePixels(PixelsOf(*bitmap), FPicture));
+}
+
+}  // namespace
+}  // namespace qv7skin
