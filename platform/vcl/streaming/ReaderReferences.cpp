@@ -1,0 +1,63 @@
+#include "platform/vcl/streaming/GlobalComponents.h"
+#include "platform/vcl/streaming/PendingReferences.h"
+#include "platform/vcl/streaming/ReaderTry.h"
+
+#include <algorithm>
+
+namespace vcl {
+
+void TReader::NoteReference(const TPublishedProperty& row, const TFormProperty& property) {
+    const String& name = property.Value.As<TFormIdent>()->Name;
+    TReference reference{FAddress, FLookupRoot, name, {}, FTopProperty};
+    reference.Address.Property = &row;
+    reference.Problem = FPlace.Problem(TFormProblemKind::UnknownReference, property.Value.Position,
+                                       Format(L"No component named %s", name));
+    FReferences.push_back(std::move(reference));
+}
+
+void TReader::SetReferences() {
+    // The list grows no more, and a setter may free components that it names.
+    for (const TReference& reference : FReferences)
+        SetReference(reference);
+    FReferences.clear();
+}
+
+void TReader::SetReference(const TReference& reference) {
+    TPersistent* object = reference.Address.Object();
+    if (!object) return;
+    bool mayComeLater = false;
+    TComponent* target = FindTarget(reference, mayComeLater);
+    if (!target && mayComeLater) return AddPendingReference(reference.Address, reference.Name);
+    const auto report = [&](String text) {
+        TFormProblem problem = reference.Problem;
+        problem.Text = std::move(text);
+        if (reference.Source) FUnread.push_back({reference.Address.Component, *reference.Source});
+        Report(std::move(problem));
+    };
+    if (!target) return report(reference.Problem.Text);
+    const TMetaClass* wanted = reference.Address.Property->ObjectClass();
+    if (wanted && !target->InheritsFrom(*wanted))
+        return report(
+            Format(L"%s is a %s, not a %s", reference.Name, target->ClassName(), wanted->ClassName()));
+    try {
+        reference.Address.Property->Set(*object, static_cast<TPersistent*>(target));
+    } catch (const Exception& error) {
+        report(error.Message());
+    }
+}
+
+TComponent* TReader::FindTarget(const TReference& reference, bool& mayComeLater) const {
+    const StringView name = reference.Name;
+    if (TComponent* found = FindNestedComponent(*reference.LookupRoot, name)) return found;
+    if (TComponent* found = FindNestedComponent(*FRoot, name)) return found;
+    const std::size_t point = std::min(name.find(L'.'), name.size());
+    const StringView first = name.substr(0, point);
+    const StringView rest = name.substr(std::min(point + 1, name.size()));
+    if (SameText(first, FRoot->GetName()) || SameText(first, FDocument.Root.Name))
+        return FindNestedComponent(*FRoot, rest);
+    if (TComponent* other = FindGlobalComponent(first)) return FindNestedComponent(*other, rest);
+    mayComeLater = point < name.size() && !FRoot->FindComponent(first);
+    return nullptr;
+}
+
+}  // namespace vcl
