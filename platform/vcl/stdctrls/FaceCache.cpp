@@ -1,0 +1,89 @@
+#include "platform/vcl/stdctrls/FaceCache.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "platform/vcl/graphics/DeviceContexts.h"
+#include "platform/vcl/graphics/GdiErrors.h"
+
+namespace vcl {
+namespace {
+
+constexpr std::int64_t MemoryLimit = 1 << 20;
+
+/// Sets a flag for the length of a scope.
+class TFlagScope {
+public:
+    explicit TFlagScope(bool& flag) : FFlag(flag) { FFlag = true; }
+    TFlagScope(const TFlagScope&) = delete;
+    TFlagScope& operator=(const TFlagScope&) = delete;
+    ~TFlagScope() { FFlag = false; }
+
+private:
+    bool& FFlag;
+};
+
+}  // namespace
+
+void TFaceCache::Clear() {
+    FPlaceOfLook.fill(NoPlace);
+    FNextPlace = 0;
+    ++FGeneration;
+}
+
+void TFaceCache::Release() {
+    Clear();
+    if (FPainting) return;
+    FDC.Reset();
+    FBitmap.Reset();
+    FSize = {};
+}
+
+void TFaceCache::MakeBitmap(TSize size) {
+    Release();
+    const std::int64_t faceBytes = std::int64_t{4} * size.Width * size.Height;
+    FPlaces = static_cast<int>(std::clamp<std::int64_t>(MemoryLimit / faceBytes, 1, Looks));
+
+    BITMAPINFO info{};
+    info.bmiHeader.biSize = sizeof info.bmiHeader;
+    info.bmiHeader.biWidth = size.Width;
+    info.bmiHeader.biHeight = -size.Height * FPlaces;
+    info.bmiHeader.biPlanes = 1;
+    info.bmiHeader.biBitCount = 32;
+    void* bits = nullptr;
+    FBitmap.Reset(CheckHandle(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)));
+    FDC = CreateMemoryDC();
+    ::SelectObject(FDC.Get(), FBitmap.Get());
+    FSize = size;
+}
+
+void TFaceCache::Paint(int look, const TPainter& paint) {
+    const int place = FNextPlace;
+    FNextPlace = (FNextPlace + 1) % FPlaces;
+    for (signed char& taken : FPlaceOfLook)
+        if (taken == place) taken = NoPlace;
+
+    const unsigned generation = FGeneration;
+    const int top = place * FSize.Height;
+    {
+        const TFlagScope painting(FPainting);
+        const TSaveDC state(FDC.Get());
+        ::IntersectClipRect(FDC.Get(), 0, top, FSize.Width, top + FSize.Height);
+        ::SetViewportOrgEx(FDC.Get(), 0, top, nullptr);
+        paint(FDC.Get());
+    }
+    if (generation == FGeneration) FPlaceOfLook[look] = static_cast<signed char>(place);
+}
+
+void TFaceCache::Show(HDC dc, TSize size, int look, const TPainter& paint) {
+    if (size.Width <= 0 || size.Height <= 0) return;
+    if (size != FSize) MakeBitmap(size);
+    int place = FPlaceOfLook[look];
+    if (place == NoPlace) {
+        place = FNextPlace;
+        Paint(look, paint);
+    }
+    ::BitBlt(dc, 0, 0, size.Width, size.Height, FDC.Get(), 0, place * size.Height, SRCCOPY);
+}
+
+}  // namespace vcl
