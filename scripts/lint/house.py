@@ -3,7 +3,7 @@
 # Which folders a folder may include from, besides itself. Right is below left; a name stands for all below it.
 VCL = "platform/vcl"
 BASES = ("platform/velmora", "platform/tms", "platform/flatstyle")
-PACKAGE = ("skin", "buttons", "explorerbar", "header", "menus", "indicators", "inputs")
+PACKAGE = ("skin", "buttons", "explorerbar", "header", "menus", "indicators", "inputs", "package")
 
 MAY_INCLUDE = {
     f"{VCL}/core": (),
@@ -25,6 +25,7 @@ MAY_INCLUDE = {
     "menus": (VCL, *BASES, "skin"),
     "indicators": (VCL, *BASES, "skin"),
     "inputs": (VCL, *BASES, "skin", "buttons", "explorerbar", "header", "menus", "indicators"),
+    "package": (VCL, *BASES, "skin", "buttons", "explorerbar", "header", "menus", "indicators", "inputs"),
     "resources": (),
     "gallery": (VCL, *BASES, *PACKAGE),
     "designer": (VCL, *BASES, *PACKAGE),
