@@ -17,7 +17,7 @@ CRASHES = {5: "access violation", 29: "illegal instruction or undefined behaviou
 GRACE = 10.0  # seconds
 
 STARTED = re.compile(r"\[ RUN      \] (\S+)")
-ENDED = re.compile(r"\[(       OK |  FAILED  |  SKIPPED )\] ([^\s,]+)")
+ENDED = re.compile(r"\[(       OK |  FAILED  |  SKIPPED )\] ([^\s,]+)(?:.*\((\d+) ms\))?")
 
 
 @dataclass
@@ -55,12 +55,11 @@ class Log:
             self.running, self.since, self.lines = start[1], time.monotonic(), []
         elif self.running and (end := ENDED.search(line)) and end[2] == self.running:
             outcome = {"OK": "passed", "FAILED": "failed", "SKIPPED": "skipped"}[end[1].strip()]
-            self.close(outcome)
+            self.close(outcome, seconds=float(end[3] or 0) / 1000)
         else:
             self.lines.append(line)
 
-    def close(self, outcome: str, reason: str = "") -> None:
-        seconds = time.monotonic() - self.since
+    def close(self, outcome: str, reason: str = "", seconds: float = 0.0) -> None:
         self.results.append(Result(self.running, outcome, seconds, reason, "\n".join(self.lines)))
         self.running, self.lines = "", []
 
@@ -136,7 +135,7 @@ class Runner:
         if log.rest:
             log.lines.append(log.rest)
         if log.running:
-            log.close("failed", reason)
+            log.close("failed", reason, time.monotonic() - log.since)
         elif log.results:
             last = log.results[-1]
             last.outcome, last.reason, last.log = "failed", reason, "\n".join([last.log, *log.lines])
