@@ -11,6 +11,7 @@
 #include "skin/masking/NinePartFrame.h"
 #include "skin/surfaces/Loaders.h"
 #include "skin/utils/BitmapRegion.h"
+#include "skin/utils/OneShotDrawing.h"
 #include "skin/utils/Tone.h"
 #include "skin/utils/TonePixels.h"
 #include "skin/utils/TransparentBitmap.h"
@@ -111,6 +112,19 @@ void TransparentDrawing(Runner& runner) {
     DestroyWindow(window);
 }
 
+/// `DrawTransparentBitmap`, which prepares nothing, against the system's transparent copy.
+void OneShotDrawing(Runner& runner) {
+    const auto glyph = CreateBmp(L"TABDRAGLEFT");
+    TBitmap ground(300, 100, pf24bit);
+    TBitmap copy;
+    copy.Assign(glyph.get());
+    const HDC from = copy.GetSourceDC();
+    runner.Row(
+        "DrawTransparentBitmap 16 x 16 to a bitmap of 24", "TransparentBlt", Aim{},
+        [&] { DrawTransparentBitmap(ground.GetCanvas(), glyph.get(), 10, 10, Magenta); },
+        [&] { TransparentBlt(ground.GetCanvas().GetHandle(), 10, 10, 16, 16, from, 0, 0, 16, 16, Magenta); });
+}
+
 /// The region of a bitmap, row by row through the pixels of its canvas.
 void RegionByPixels(TBitmap& bitmap) {
     TCanvas& canvas = bitmap.GetCanvas();
@@ -165,6 +179,7 @@ void Tones(Runner& runner) {
 const bench::Suite suite("foundation", [](Runner& runner) {
     Frames(runner);
     TransparentDrawing(runner);
+    OneShotDrawing(runner);
     Regions(runner);
     Tones(runner);
 });

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/vcl/graphics/GdiErrors.h"
 #include "skin/utils/Assertions.h"
 
 namespace qv7skin {
@@ -14,7 +15,7 @@ constexpr int LineOfRest = 558;
 
 /// Adds the pixels of `other` to `region`.
 void Join(TRegionHandle& region, const TRegionHandle& other) {
-    CombineRgn(region.Get(), region.Get(), other.Get(), RGN_OR);
+    if (CombineRgn(region.Get(), region.Get(), other.Get(), RGN_OR) == ERROR) RaiseOutOfResources();
 }
 
 }  // namespace

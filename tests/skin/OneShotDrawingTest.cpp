@@ -94,6 +94,71 @@ TEST_F(OneShotDrawingTest, ASystemColorIsLookedUp) {
     EXPECT_TRUE(SamePixels(PixelsOf(*ground), FGround));
 }
 
+TEST_F(OneShotDrawingTest, RasterStepsAndWorkInMemoryAgree) {
+    RandomColors random(5);
+    for (int round = 0; round < 60; ++round) {
+        const TPixelFormat from = random.Next(2) ? pf24bit : pf32bit, to = random.Next(2) ? pf24bit : pf32bit;
+        const auto number = [&](int least, int limit) {
+            return least + static_cast<int>(random.Next(static_cast<unsigned>(limit - least)));
+        };
+        const Pixels picture =
+            random.Picture(number(1, 12), number(1, 12), {Magenta, 0x00123456, clBlack, clWhite});
+        const int x = number(-8, 22), y = number(-8, 18), width = number(-1, 14), height = number(-1, 14);
+        const auto bitmap = BitmapOf(picture, from);
+        const auto inMemory = BitmapOf(FGround, to), bySteps = BitmapOf(FGround, to);
+        DrawTransparentBitmap(inMemory->GetCanvas(), bitmap.get(), x, y, width, height, Magenta);
+        DrawTransparentSteps(bySteps->GetCanvas().GetHandle(), bitmap->GetHandle(), x, y, width, height,
+                             Magenta);
+        EXPECT_TRUE(SamePixels(PixelsOf(*inMemory), PixelsOf(*bySteps))) << "round " << round;
+        EXPECT_TRUE(SamePixels(PixelsOf(*bitmap), picture));
+    }
+}
+
+TEST_F(OneShotDrawingTest, AnyFormatIsDrawnOnAnyCanvas) {
+    for (const TPixelFormat from : {pf1bit, pf4bit, pf8bit, pf16bit, pf24bit})
+        for (const TPixelFormat to : {pf8bit, pf16bit, pf24bit, pf32bit}) {
+            const auto bitmap = BitmapOf(RandomColors(6).Picture(7, 5, {clWhite, clBlack}), from);
+            const Pixels shown = PixelsOf(*bitmap);
+            const auto ground = BitmapOf(12, 12, clRed, to);
+            DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 2, 3, clWhite);
+            EXPECT_TRUE(SamePixels(PixelsOf(*ground),
+                                   [&](int x, int y) {
+                                       return shown.At(x - 2, y - 3) == clBlack ? COLORREF{clBlack}
+                                                                                : COLORREF{clRed};
+                                   }))
+                << static_cast<int>(from) << " on " << static_cast<int>(to);
+            EXPECT_TRUE(SamePixels(PixelsOf(*bitmap), shown));
+        }
+}
+
+TEST_F(OneShotDrawingTest, DrawsOnlyInsideTheClipRegion) {
+    const auto bitmap = BitmapOf(20, 16, clRed);
+    const auto ground = BitmapOf(FGround);
+    {
+        const TClipScope clip(ground->GetCanvas(), {3, 4, 10, 9});
+        DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 0, 0, Magenta);
+    }
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), [&](int x, int y) {
+        return TRect(3, 4, 10, 9).Contains({x, y}) ? COLORREF{clRed} : FGround.At(x, y);
+    }));
+}
+
+TEST_F(OneShotDrawingTest, ABitmapIsDrawnOnItself) {
+    const auto bitmap = BitmapOf(4, 1, clLime);
+    bitmap->GetCanvas().SetPixel(0, 0, clRed);
+    DrawTransparentBitmap(bitmap->GetCanvas(), bitmap.get(), 1, 0, clLime);
+    EXPECT_EQ(PixelsOf(*bitmap).At(1, 0), COLORREF{clRed});
+}
+
+TEST_F(OneShotDrawingTest, ChangesAreTold) {
+    const auto bitmap = BitmapOf(FPicture);
+    const auto ground = BitmapOf(FGround);
+    int changes = 0;
+    ground->OnChange = [&](TObject*) { ++changes; };
+    DrawTransparentBitmap(ground->GetCanvas(), bitmap.get(), 0, 0, Magenta);
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(OneShotDrawingTest, NothingToDrawDoesNothing) {
     const auto ground = BitmapOf(FGround);
     DrawTransparentBitmap(ground->GetCanvas(), nullptr, 0, 0, Magenta);

@@ -102,6 +102,44 @@ TEST_F(TransparentBitmapTest, DrawsOverTheEdges) {
     }
 }
 
+TEST_F(TransparentBitmapTest, DrawsTheSameThroughADeviceContext) {
+    TTransparentBitmap transparent(Magenta);
+    transparent.SetBitmap(BitmapOf(FPicture).get());
+    for (const TPixelFormat format : {pf24bit, pf32bit})
+        for (const TPoint place : {TPoint(5, 3), TPoint(-3, -2), TPoint(15, 12)}) {
+            const auto ground = BitmapOf(FGround, format);
+            TCanvas lent;
+            lent.SetHandle(ground->GetCanvas().GetHandle());
+            transparent.Draw(lent, place.X, place.Y);
+            lent.SetHandle(nullptr);
+            EXPECT_TRUE(SamePixels(PixelsOf(*ground), Expected(place.X, place.Y)));
+        }
+}
+
+TEST_F(TransparentBitmapTest, DrawsOnlyInsideTheClipRegion) {
+    TTransparentBitmap transparent(Magenta);
+    transparent.SetBitmap(BitmapOf(FPicture).get());
+    const auto ground = BitmapOf(FGround);
+    {
+        const TClipScope clip(ground->GetCanvas(), {3, 4, 10, 9});
+        transparent.Draw(ground->GetCanvas(), 1, 2);
+    }
+    const Pixels everywhere = Expected(1, 2);
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), [&](int x, int y) {
+        return TRect(3, 4, 10, 9).Contains({x, y}) ? everywhere.At(x, y) : FGround.At(x, y);
+    }));
+}
+
+TEST_F(TransparentBitmapTest, DrawingTellsTheChange) {
+    TTransparentBitmap transparent(Magenta);
+    transparent.SetBitmap(BitmapOf(FPicture).get());
+    const auto ground = BitmapOf(FGround);
+    int changes = 0;
+    ground->OnChange = [&](TObject*) { ++changes; };
+    transparent.Draw(ground->GetCanvas(), 0, 0);
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(TransparentBitmapTest, DrawingLeavesTheCanvasInSourcePaint) {
     TTransparentBitmap transparent(Magenta);
     transparent.SetBitmap(BitmapOf(FPicture).get());
