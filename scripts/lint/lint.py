@@ -39,6 +39,7 @@ CHECKS: dict[str, Check] = {
     "clang": tool_checks.second_compiler,
     "headers": tool_checks.headers_alone,
     "artwork": tool_checks.artwork,
+    "package": tool_checks.package,
 }
 
 

@@ -2,6 +2,7 @@
 
 import os
 import re
+import shutil
 import subprocess
 from collections.abc import Iterator
 
@@ -74,3 +75,21 @@ def artwork() -> Iterator[str]:
     code, output = run("./run", "artwork", "--check")
     if code:
         yield output.strip()
+
+
+def package() -> Iterator[str]:
+    """The examples build against the installed package, as a host outside the tree would"""
+    steps = (
+        ("./run", "build"),
+        ("cmake", "--install", "build/mingw", "--prefix", "build/package"),
+        ("cmake", "-S", "examples", "-B", "build/examples", "-G", "Ninja",
+         "--toolchain", str(tree.ROOT / "cmake" / "toolchain-mingw.cmake"),
+         f"-DQV7Skin_DIR={tree.ROOT / 'build' / 'package' / 'lib' / 'cmake' / 'QV7Skin'}"),
+        ("cmake", "--build", "build/examples"),
+    )
+    shutil.rmtree(tree.ROOT / "build" / "package", ignore_errors=True)
+    for step in steps:
+        code, output = run(*step)
+        if code:
+            yield output.strip()
+            return
