@@ -1,0 +1,38 @@
+#pragma once
+
+#include <span>
+
+#include "gallery/Namespace.h"
+#include "platform/vcl/controls/CustomControl.h"
+
+namespace gallery {
+
+/// One page of the gallery: shows a piece of the package in all its states. A page is made when it is first
+/// opened and lives as long as the window.
+class TGalleryPage : public TCustomControl {
+public:
+    /// White, double buffered, filling the content area.
+    explicit TGalleryPage(TComponent* AOwner);
+
+    /// How many pictures show the whole page; the default is one. A page that has states which only the mouse
+    /// or the time brings about shows picture n of them after `PrepareShot(n)`.
+    [[nodiscard]] virtual int ShotCount() const { return 1; }
+    virtual void PrepareShot(int) {}
+
+protected:
+    void Dispatch(TMessage& message) override;
+};
+
+/// What the navigation shows of a page, and how to make it.
+struct TPageInfo {
+    const wchar_t* Section;   ///< Heading under which it stands; the same for neighbours.
+    const wchar_t* Title;     ///< For people.
+    const wchar_t* FileName;  ///< Name of its pictures, without number and extension.
+    const wchar_t* Summary;   ///< A sentence under the title.
+    TGalleryPage* (*Create)(TComponent* owner);
+};
+
+/// All pages in the order of the navigation.
+[[nodiscard]] std::span<const TPageInfo> GalleryPages();
+
+}  // namespace gallery

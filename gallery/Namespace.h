@@ -1,0 +1,7 @@
+#pragma once
+
+#include "skin/Namespace.h"
+
+namespace gallery {
+using namespace qv7skin;
+}

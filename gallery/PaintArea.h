@@ -1,0 +1,21 @@
+#pragma once
+
+#include "gallery/Namespace.h"
+#include "platform/vcl/controls/CustomControl.h"
+#include "platform/vcl/graphics/Canvas.h"
+
+namespace gallery {
+
+/// A white area that calls back to be painted, without flicker.
+class TPaintArea : public TCustomControl {
+public:
+    explicit TPaintArea(TComponent* AOwner);
+    /// Canvas and the whole client area.
+    TEvent<void(TCanvas&, const TRect&)> OnPaint;
+
+protected:
+    void Dispatch(TMessage& message) override;
+    void Paint() override { OnPaint(GetCanvas(), GetClientRect()); }
+};
+
+}  // namespace gallery

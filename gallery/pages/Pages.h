@@ -1,0 +1,19 @@
+#pragma once
+
+#include "gallery/GalleryPage.h"
+
+namespace gallery {
+
+// One function per page; each stands in the source file of that name.
+[[nodiscard]] TGalleryPage* CreatePalettePage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateCataloguePage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateFramesPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateMasksPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateColumnHeadersPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreatePaintBoxPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateTonesPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateRegionsPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateSkinButtonPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateGlowButtonPage(TComponent* owner);
+
+}  // namespace gallery
