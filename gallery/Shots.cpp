@@ -15,7 +15,7 @@ namespace {
 void WriteWindow(TMainForm& form, const String& path) {
     TBitmap picture(form.GetWidth(), form.GetHeight(), pf24bit);
     {
-        const TWindowDC window(form.GetHandle(), TWindowDC::Whole);
+        const TWindowDC window = TWindowDC::OfWholeWindow(form.GetHandle());
         BitBlt(picture.GetCanvas().GetHandle(), 0, 0, picture.GetWidth(), picture.GetHeight(), window.Get(), 0, 0,
                SRCCOPY);
     }

@@ -1,13 +1,13 @@
-#include <vector>
+#include <deque>
 
 #include "gallery/Drawing.h"
 #include "gallery/PaintArea.h"
 #include "gallery/pages/Pages.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/stdctrls/TrackBar.h"
-#include "skin/UnitQV7SkinClasses.h"
+#include "skin/UnitGraphicsUtils.h"
 #include "skin/UnitQV7SkinColors.h"
-#include "skin/masking/NinePartFrame.h"
+#include "skin/UnitQV7SkinMasking.h"
 
 namespace gallery {
 namespace {
@@ -75,7 +75,7 @@ private:
         DrawTransparentBitmap(GetCanvas(), &frame, left, top + 18, 0x00FF00FF);
     }
 
-    std::vector<TNinePartBitmaps> FFrames;
+    std::deque<TNinePartBitmaps> FFrames;
     TTrackBar* FWidthSlider;
     TTrackBar* FHeightSlider;
 };

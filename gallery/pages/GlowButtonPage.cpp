@@ -6,6 +6,7 @@
 #include "gallery/SamplePicture.h"
 #include "gallery/pages/Pages.h"
 #include "platform/tms/GlowFace.h"
+#include "skin/UnitQV7SkinColors.h"
 
 namespace gallery {
 namespace {

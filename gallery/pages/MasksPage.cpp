@@ -2,11 +2,14 @@
 #include <memory>
 
 #include "gallery/Drawing.h"
+#include "gallery/PaintArea.h"
 #include "gallery/pages/Pages.h"
+#include "platform/vcl/graphics/Gradients.h"
 #include "platform/vcl/graphics/Picture.h"
 #include "platform/vcl/stdctrls/Image.h"
 #include "platform/vcl/stdctrls/Memo.h"
 #include "platform/vcl/stdctrls/Panel.h"
+#include "skin/UnitGraphicsUtils.h"
 #include "skin/UnitQV7SkinClasses.h"
 #include "skin/UnitQV7SkinColors.h"
 #include "skin/UnitQV7SkinMasking.h"
@@ -102,7 +105,7 @@ private:
             auto* image = new TImage(this);
             const std::unique_ptr<TBitmap> piece = CreateBmp(FrameResourceName(L"MASKWHITE", AllFramePositions[i]));
             ReplaceColor(piece.get(), clWhite, GetColor());
-            image->GetPicture().SetGraphic(piece.get());
+            image->Picture().SetGraphic(piece.get());
             mask->*fields[i] = image;
         }
         mask->Control = AddPanel(2, 0x00D8F0D8);

@@ -57,11 +57,12 @@ private:
         box->SetColor(GetQV7SkinColorBackground());
         box->SetBoundsRect(bounds);
         box->SetParent(this);
-        box->OnPaintBuffer = {this, &TPaintBoxPage::PaintBox};
+        box->OnFFPaint = {this, &TPaintBoxPage::PaintBox};
         return box;
     }
 
-    void PaintBox(TObject*, TBitmap& buffer) {
+    void PaintBox(TObject*, TBitmap* surface) {
+        TBitmap& buffer = *surface;
         TBitmap picture;
         DrawSamplePicture(picture, buffer.GetWidth() - 16, buffer.GetHeight() - 40);
         TCanvas& canvas = buffer.GetCanvas();

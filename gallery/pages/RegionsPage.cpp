@@ -1,3 +1,4 @@
+#include <tuple>
 #include <vector>
 
 #include "gallery/Drawing.h"
@@ -6,7 +7,7 @@
 #include "platform/vcl/graphics/Handles.h"
 #include "skin/UnitGraphicsUtils.h"
 #include "skin/UnitQV7SkinColors.h"
-#include "skin/UnitQV7SkinConsts.h"
+#include "skin/UnitQV7SkinMasking.h"
 
 namespace gallery {
 namespace {
@@ -100,7 +101,8 @@ private:
         void CreateWnd() override {
             TCustomControl::CreateWnd();
             TRegionHandle region = BitmapToRegion(&Shape, false);
-            if (SetWindowRgn(GetHandle(), region.Get(), TRUE)) region.Release();
+            // The window owns its region from then on.
+            if (SetWindowRgn(GetHandle(), region.Get(), TRUE)) std::ignore = region.Release();
         }
         void Paint() override { GetCanvas().Draw(0, 0, &Shape); }
     };

@@ -5,6 +5,7 @@
 #include "gallery/Drawing.h"
 #include "gallery/pages/Pages.h"
 #include "skin/UnitGraphicsUtils.h"
+#include "skin/UnitQV7SkinColors.h"
 
 namespace gallery {
 namespace {
