@@ -54,7 +54,8 @@ void DrawChecker(TCanvas& canvas, const TRect& rect) {
     }
 }
 
-void DrawMagnified(TCanvas& canvas, int left, int top, const TBitmap& bitmap, int factor, TColor transparent) {
+void DrawMagnified(TCanvas& canvas, int left, int top, const TBitmap& bitmap, int factor,
+                   TColor transparent) {
     TBitmap source;
     source.Assign(&bitmap);
     source.SetPixelFormat(pf32bit);
@@ -73,6 +74,8 @@ void DrawMagnified(TCanvas& canvas, int left, int top, const TBitmap& bitmap, in
         DrawTransparentBitmap(canvas, &large, left, top, transparent);
 }
 
-String ColorCode(TColor color) { return Format(L"0x%08X", color); }
+String ColorCode(TColor color) {
+    return Format(L"0x%08X", color);
+}
 
 }  // namespace gallery

@@ -22,23 +22,25 @@ void TGalleryPage::Dispatch(TMessage& message) {
 
 std::span<const TPageInfo> GalleryPages() {
     static const TPageInfo pages[] = {
-        {L"Grundlagen", L"Farbpalette", L"palette", L"Die Farben und Schriftstile, aus denen alles andere schöpft.",
-         &CreatePalettePage},
-        {L"Grundlagen", L"Bitmaps", L"bitmaps", L"Alle Bilder der Skin, vergrößert; Magenta ist durchsichtig.",
-         &CreateCataloguePage},
+        {L"Grundlagen", L"Farbpalette", L"palette",
+         L"Die Farben und Schriftstile, aus denen alles andere schöpft.", &CreatePalettePage},
+        {L"Grundlagen", L"Bitmaps", L"bitmaps",
+         L"Alle Bilder der Skin, vergrößert; Magenta ist durchsichtig.", &CreateCataloguePage},
         {L"Grundlagen", L"Rahmen", L"frames", L"Neunteilige Rahmen: Ecken bleiben, Kanten dehnen sich.",
          &CreateFramesPage},
-        {L"Grundlagen", L"Masken", L"masks", L"Abgerundete Ecken für fremde Steuerelemente.", &CreateMasksPage},
+        {L"Grundlagen", L"Masken", L"masks", L"Abgerundete Ecken für fremde Steuerelemente.",
+         &CreateMasksPage},
         {L"Grundlagen", L"Spaltenköpfe", L"columnheaders", L"Kopfband und Sortierpfeile für Listen.",
          &CreateColumnHeadersPage},
         {L"Grundlagen", L"Zeichenfläche", L"paintbox", L"Gepufferte Fläche, verformt und ausgeblendet.",
          &CreatePaintBoxPage},
-        {L"Grundlagen", L"Tönung", L"tones", L"Aufhellen und Vergrauen in mehreren Stärken.", &CreateTonesPage},
+        {L"Grundlagen", L"Tönung", L"tones", L"Aufhellen und Vergrauen in mehreren Stärken.",
+         &CreateTonesPage},
         {L"Grundlagen", L"Regionen", L"regions", L"Fensterformen aus Bitmaps.", &CreateRegionsPage},
-        {L"Schaltflächen", L"Skin-Schaltfläche", L"skinbutton", L"Ein Bild je Zustand, runde Ecken als Fensterform.",
-         &CreateSkinButtonPage},
-        {L"Schaltflächen", L"Glow-Schaltfläche", L"glowbutton", L"Die Schaltfläche der Palette: Verlauf und Leuchten.",
-         &CreateGlowButtonPage},
+        {L"Schaltflächen", L"Skin-Schaltfläche", L"skinbutton",
+         L"Ein Bild je Zustand, runde Ecken als Fensterform.", &CreateSkinButtonPage},
+        {L"Schaltflächen", L"Glow-Schaltfläche", L"glowbutton",
+         L"Die Schaltfläche der Palette: Verlauf und Leuchten.", &CreateGlowButtonPage},
     };
     return pages;
 }

@@ -26,7 +26,9 @@ TMainForm::TMainForm(TComponent* AOwner) : TForm(AOwner), FPages(GalleryPages().
     SetActiveControl(FNavigation);
 }
 
-void TMainForm::OpenPage(int index) { FNavigation->SelectPage(index); }
+void TMainForm::OpenPage(int index) {
+    FNavigation->SelectPage(index);
+}
 
 void TMainForm::NavigationChanged(TObject*) {
     const int previous = FCurrent;

@@ -85,7 +85,8 @@ void TNavigation::DrawRow(TCanvas& canvas, const TRow& row) {
             Fill(canvas, row.Rect, GetQV7SkinColorBackground());
             Fill(canvas, {0, row.Rect.Top, 4, row.Rect.Bottom}, GetQV7SkinColorLinkText());
         }
-        UseFont(canvas, 9, selected, hot && !selected ? GetQV7SkinColorLinkText() : GetQV7SkinColorWindowText());
+        UseFont(canvas, 9, selected,
+                hot && !selected ? GetQV7SkinColorLinkText() : GetQV7SkinColorWindowText());
     }
     canvas.GetBrush().SetStyle(bsClear);
     TRect place = text;

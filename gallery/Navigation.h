@@ -7,8 +7,8 @@
 
 namespace gallery {
 
-/// The list of pages at the left edge: sections in column header bands, pages below them. Follows the mouse, the
-/// arrow keys, Home and End.
+/// The list of pages at the left edge: sections in column header bands, pages below them. Follows the mouse,
+/// the arrow keys, Home and End.
 class TNavigation : public TCustomControl {
 public:
     explicit TNavigation(TComponent* AOwner);

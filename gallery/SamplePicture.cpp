@@ -28,7 +28,8 @@ void DrawSamplePicture(TBitmap& bitmap, int width, int height) {
     canvas.Polygon(std::array{TPoint{width * 32 / 100, height * 30 / 100}, TPoint{width * 4 / 10, height / 5},
                               TPoint{width * 48 / 100, height * 30 / 100}});
     canvas.GetBrush().SetColor(clBlack);
-    canvas.Polygon(std::array{TPoint{width * 72 / 100, height * 9 / 10}, TPoint{width * 8 / 10, height * 4 / 10},
+    canvas.Polygon(std::array{TPoint{width * 72 / 100, height * 9 / 10},
+                              TPoint{width * 8 / 10, height * 4 / 10},
                               TPoint{width * 88 / 100, height * 9 / 10}});
     canvas.GetPen().SetStyle(psSolid);
 }

@@ -16,8 +16,8 @@ void WriteWindow(TMainForm& form, const String& path) {
     TBitmap picture(form.GetWidth(), form.GetHeight(), pf24bit);
     {
         const TWindowDC window = TWindowDC::OfWholeWindow(form.GetHandle());
-        BitBlt(picture.GetCanvas().GetHandle(), 0, 0, picture.GetWidth(), picture.GetHeight(), window.Get(), 0, 0,
-               SRCCOPY);
+        BitBlt(picture.GetCanvas().GetHandle(), 0, 0, picture.GetWidth(), picture.GetHeight(), window.Get(),
+               0, 0, SRCCOPY);
     }
     TPngImage png;
     png.Assign(&picture);

@@ -6,6 +6,7 @@
 #include "gallery/pages/Pages.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "skin/SkinCatalogue.h"
+#include "skin/UnitQV7SkinColors.h"
 #include "skin/UnitQV7SkinConsts.h"
 
 namespace gallery {
@@ -26,7 +27,9 @@ constexpr TFamily Families[] = {
     {L"Köpfe und Kalender", {L"EXPLORERBAR", L"COLUMNHEADER", L"DATETIMEPICKER"}},
 };
 
-bool StartsWith(const String& name, const wchar_t* prefix) { return prefix && name.starts_with(prefix); }
+bool StartsWith(const String& name, const wchar_t* prefix) {
+    return prefix && name.starts_with(prefix);
+}
 
 /// Every bitmap of the skin, each pixel as a square, family by family, and the icons of the palette page.
 class TCataloguePage : public TGalleryPage {
@@ -55,14 +58,18 @@ protected:
 
     void MouseMove(TShiftState shift, int x, int y) override {
         TGalleryPage::MouseMove(shift, x, y);
-        const bool onTitle = std::ranges::any_of(FTitleRects, [&](const TRect& r) { return r.Contains({x, y}); });
+        const bool onTitle = std::ranges::any_of(FTitleRects, [&](const TRect& r) {
+            return r.Contains({x, y});
+        });
         SetCursor(onTitle ? crHandPoint : crDefault);
     }
 
 private:
     static constexpr int Margin = 16;
-    static constexpr int CellWidth = 91;
-    static constexpr int CellHeight = 96;
+    static constexpr int PieceCellWidth = 91;
+    static constexpr int SingleCellWidth = 182;
+    static constexpr int RowHeight = 104;
+    static constexpr int PictureHeight = 66;
 
     void ShowFamily(int index) {
         FFamily = index;
@@ -76,69 +83,95 @@ private:
         int left = Margin;
         for (int i = 0; i <= static_cast<int>(std::size(Families)); ++i) {
             const wchar_t* title = i < static_cast<int>(std::size(Families)) ? Families[i].Title : L"Symbole";
-            UseFont(canvas, 8, i == FFamily, i == FFamily ? clBlack : TColor{0x00D78112});
+            UseFont(canvas, 8, i == FFamily,
+                    i == FFamily ? GetQV7SkinColorWindowText() : GetQV7SkinColorLinkText());
             canvas.GetBrush().SetStyle(bsClear);
             canvas.TextOut(left, 14, title);
             const int width = canvas.TextWidth(title);
             FTitleRects.push_back(TRect::OfSize(left, 10, width, 20));
             left += width + 16;
         }
-        Fill(canvas, {Margin, 34, GetClientWidth() - Margin, 35}, 0x00F0EAE7);
+        Fill(canvas, {Margin, 34, GetClientWidth() - Margin, 35}, GetQV7SkinColorBackground());
     }
 
+    /// Pieces of a frame stand in a row of their own under the frame's name, other bitmaps four in a row.
     void DrawBitmaps(const TFamily& family) {
-        int index = 0;
+        FTop = 42;
+        FColumn = 0;
+        String frame;
         for (const TSkinBitmapInfo& info : SkinBitmapCatalogue()) {
-            const bool belongs =
-                std::ranges::any_of(family.Prefixes, [&](const wchar_t* p) { return StartsWith(info.Name, p); });
-            if (belongs) DrawCell(index++, info, 4, 0x00FF00FF);
+            const bool belongs = std::ranges::any_of(
+                family.Prefixes, [&](const wchar_t* p) { return StartsWith(info.Name, p); });
+            if (!belongs) continue;
+            const StringView position = FramePosition(info.Name);
+            if (position.empty()) {
+                DrawSingle(info, 4);
+                continue;
+            }
+            const String prefix = info.Name.substr(0, info.Name.size() - position.size());
+            if (prefix != frame) {
+                if (!frame.empty()) FTop += RowHeight;
+                frame = prefix;
+                FColumn = 0;
+                UseFont(GetCanvas(), 8, true);
+                GetCanvas().GetBrush().SetStyle(bsClear);
+                GetCanvas().TextOut(Margin, FTop, prefix);
+            }
+            const int left = Margin + FColumn++ * PieceCellWidth;
+            DrawPicture(left, FTop + 18, info, 5);
+            DrawNote(GetCanvas(), TRect::OfSize(left, FTop + 20 + PictureHeight - 6, PieceCellWidth - 4, 14),
+                     position);
         }
     }
 
     void DrawIcons() {
-        int index = 0;
+        FTop = 42;
+        FColumn = 0;
         for (const TSkinBitmapInfo& info : PaletteIconCatalogue())
-            DrawCell(index++, info, 2, 0x00FF00FF);
+            DrawSingle(info, 2);
     }
 
-    /// One bitmap, enlarged as far as it fits, with name and size.
-    void DrawCell(int index, const TSkinBitmapInfo& info, int factor, TColor transparent) {
-        constexpr int columns = 8;
+    void DrawSingle(const TSkinBitmapInfo& info, int factor) {
+        constexpr int columns = 4;
+        const int left = Margin + FColumn * SingleCellWidth;
+        DrawPicture(left, FTop, info, factor);
+        const TRect name = TRect::OfSize(left, FTop + PictureHeight + 2, SingleCellWidth - 6, 14);
+        DrawNote(GetCanvas(), name, info.Name);
+        TRect size = name;
+        size.Offset(0, 14);
+        DrawNote(GetCanvas(), size, Format(L"%d × %d", info.Size.Width, info.Size.Height));
+        FColumn = (FColumn + 1) % columns;
+        if (FColumn == 0) FTop += RowHeight;
+    }
+
+    /// The word at the end of the name that tells a piece of a frame; empty for other bitmaps.
+    static StringView FramePosition(const String& name) {
+        for (const TFramePosition position : AllFramePositions)
+            if (const StringView word = FramePositionWord(position); name.ends_with(word)) return word;
+        return {};
+    }
+
+    /// The bitmap, enlarged as far as it fits.
+    void DrawPicture(int left, int top, const TSkinBitmapInfo& info, int factor) {
         TCanvas& canvas = GetCanvas();
-        const int left = Margin + index % columns * CellWidth;
-        const int top = 44 + index / columns * CellHeight;
-        while (factor > 1 && info.Size.Height * factor > 60)
+        while (factor > 1 && info.Size.Height * factor > PictureHeight)
             --factor;
         TBitmap bitmap;
         bitmap.LoadFromResourceName(QV7SkinModule(), info.Name);
         DrawChecker(canvas, TRect::OfSize(left, top, info.Size.Width * factor, info.Size.Height * factor));
-        DrawMagnified(canvas, left, top, bitmap, factor, transparent);
-        DrawName(left, top + 61, info);
+        DrawMagnified(canvas, left, top, bitmap, factor, 0x00FF00FF);
     }
 
-    /// The name in small letters, on two lines where it is too long for one.
-    void DrawName(int left, int top, const TSkinBitmapInfo& info) {
-        TCanvas& canvas = GetCanvas();
-        UseFont(canvas, 6, false, 0x00404040);
-        canvas.GetBrush().SetStyle(bsClear);
-        StringView rest = info.Name;
-        for (int line = 0; line < 2 && !rest.empty(); ++line) {
-            std::size_t length = rest.size();
-            while (length > 1 && canvas.TextWidth(rest.substr(0, length)) > CellWidth - 5)
-                --length;
-            canvas.TextOut(left, top + line * 9, rest.substr(0, length));
-            rest.remove_prefix(length);
-        }
-        UseFont(canvas, 6, false, 0x00909090);
-        canvas.TextOut(left, top + 19, Format(L"%d × %d", info.Size.Width, info.Size.Height));
-    }
-
+    int FTop = 0;     ///< Where the present row starts while painting.
+    int FColumn = 0;  ///< The next cell of the present row.
     std::vector<TRect> FTitleRects;
     int FFamily = 0;
 };
 
 }  // namespace
 
-TGalleryPage* CreateCataloguePage(TComponent* owner) { return new TCataloguePage(owner); }
+TGalleryPage* CreateCataloguePage(TComponent* owner) {
+    return new TCataloguePage(owner);
+}
 
 }  // namespace gallery

@@ -57,7 +57,8 @@ private:
     static constexpr int RowHeight = 22;
 
     static TRect HeaderRect(std::size_t column) {
-        return {Margin + ColumnLefts[column], ListTop, Margin + ColumnLefts[column + 1], ListTop + HeaderHeight};
+        return {Margin + ColumnLefts[column], ListTop, Margin + ColumnLefts[column + 1],
+                ListTop + HeaderHeight};
     }
 
     void SortBy(int column, bool ascending) {
@@ -106,8 +107,9 @@ private:
             UseFont(canvas, 9);
             canvas.GetBrush().SetStyle(bsClear);
             TRect cell{Margin + ColumnLefts[i] + 8, top, Margin + ColumnLefts[i + 1] - 8, top + RowHeight};
-            canvas.TextRect(cell, texts[i],
-                            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | (i == 1 ? DT_RIGHT : 0u));
+            canvas.TextRect(
+                cell, texts[i],
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS | (i == 1 ? DT_RIGHT : 0u));
         }
     }
 
@@ -125,19 +127,19 @@ private:
 
     TQV7SkinColumnHeaderPainter FBandPainter;
     TQV7SkinColumnHeaderSortGlyphPainter FGlyphPainter;
-    std::vector<TFileRow> FRows{{L"Angebot Krüger.docx", 84, L"Text"},
-                                {L"Bilanz 2013.xlsx", 412, L"Tabelle"},
-                                {L"Firmenlogo.bmp", 1033, L"Bild"},
-                                {L"Lieferschein 4711.pdf", 56, L"Dokument"},
-                                {L"Messe Außenstand.jpg", 2875, L"Bild"},
-                                {L"Notizen.txt", 3, L"Text"},
-                                {L"Preisliste.xlsx", 128, L"Tabelle"}};
+    std::vector<TFileRow> FRows{
+        {L"Angebot Krüger.docx", 84, L"Text"},    {L"Bilanz 2013.xlsx", 412, L"Tabelle"},
+        {L"Firmenlogo.bmp", 1033, L"Bild"},       {L"Lieferschein 4711.pdf", 56, L"Dokument"},
+        {L"Messe Außenstand.jpg", 2875, L"Bild"}, {L"Notizen.txt", 3, L"Text"},
+        {L"Preisliste.xlsx", 128, L"Tabelle"}};
     int FSortColumn = 0;
     bool FAscending = true;
 };
 
 }  // namespace
 
-TGalleryPage* CreateColumnHeadersPage(TComponent* owner) { return new TColumnHeadersPage(owner); }
+TGalleryPage* CreateColumnHeadersPage(TComponent* owner) {
+    return new TColumnHeadersPage(owner);
+}
 
 }  // namespace gallery

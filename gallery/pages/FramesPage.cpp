@@ -12,24 +12,25 @@
 namespace gallery {
 namespace {
 
-struct TFrameKind {
-    const wchar_t* Prefix;
-    TColor Interior;
+constexpr const wchar_t* Kinds[] = {
+    L"SKINBUTTONDEFAULT", L"SKINBUTTONHOVERED", L"SKINBUTTONPRESSED", L"SKINBUTTONDISABLED", L"TABDEFAULT",
+    L"TABHOVERED",        L"TABPRESSED",        L"WHITETABDEFAULT",   L"WHITETABPRESSED",    L"MASK",
+    L"MASKWHITE",
 };
 
-constexpr TFrameKind Kinds[] = {
-    {L"SKINBUTTONDEFAULT", 0x00000000}, {L"SKINBUTTONHOVERED", 0x00000000}, {L"SKINBUTTONPRESSED", 0x00C66021},
-    {L"SKINBUTTONDISABLED", 0x00939393}, {L"TABDEFAULT", 0x00FF00FF},       {L"TABHOVERED", 0x00FF00FF},
-    {L"TABPRESSED", 0x00FF00FF},         {L"WHITETABDEFAULT", 0x00FFFFFF},  {L"WHITETABPRESSED", 0x00FFFFFF},
-    {L"MASK", 0x00FF00FF},               {L"MASKWHITE", 0x00FF00FF},
-};
+/// The colour that the frame surrounds: that of the innermost pixel of its left edge.
+TColor InteriorColor(const TNinePartBitmaps& frame) {
+    const TBitmap& edge = frame[fposLeftCenter];
+    return edge.GetCanvas().GetPixel(edge.GetWidth() - 1, 0);
+}
 
 /// Frames of every family at a size that two sliders choose.
 class TFramesPage : public TGalleryPage {
 public:
     explicit TFramesPage(TComponent* AOwner) : TGalleryPage(AOwner) {
-        for (const TFrameKind& kind : Kinds)
-            FFrames.emplace_back(kind.Prefix);
+        SetColor(GetQV7SkinColorBackground());
+        for (const wchar_t* kind : Kinds)
+            FFrames.emplace_back(kind);
         FWidthSlider = MakeSlider(20, 24, 220, 100);
         FHeightSlider = MakeSlider(370, 18, 96, 25);
     }
@@ -43,7 +44,7 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetQV7SkinColorBackground());
+        Fill(canvas, GetClientRect(), GetColor());
         const int width = FWidthSlider->GetPosition();
         const int height = FHeightSlider->GetPosition();
         DrawNote(canvas, TRect::OfSize(28, 16, 300, 16), L"Breite: " + IntToStr(width) + L" Pixel");
@@ -69,9 +70,9 @@ private:
         constexpr int cellHeight = 126;
         const int left = 20 + static_cast<int>(index) % 3 * cellWidth;
         const int top = 84 + static_cast<int>(index) / 3 * cellHeight;
-        DrawNote(GetCanvas(), TRect::OfSize(left, top, 220, 16), Kinds[index].Prefix);
+        DrawNote(GetCanvas(), TRect::OfSize(left, top, 220, 16), Kinds[index]);
         TBitmap frame(width, height, pf24bit);
-        ComposeNinePartFrame(frame, FFrames[index].Pieces(), Kinds[index].Interior);
+        ComposeNinePartFrame(frame, FFrames[index].Pieces(), InteriorColor(FFrames[index]));
         DrawTransparentBitmap(GetCanvas(), &frame, left, top + 18, 0x00FF00FF);
     }
 
@@ -82,6 +83,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreateFramesPage(TComponent* owner) { return new TFramesPage(owner); }
+TGalleryPage* CreateFramesPage(TComponent* owner) {
+    return new TFramesPage(owner);
+}
 
 }  // namespace gallery

@@ -55,7 +55,7 @@ private:
         GetCanvas().TextOut(24, top, text);
     }
 
-    void DrawFace(TBitmap& face, TSize size, int group) {
+    void DrawFace(TBitmap& face, TSize size, int group, const wchar_t* text) {
         face.SetPixelFormat(pf32bit);
         face.SetSize(size.Width, size.Height);
         const TQV7SkinButton button(nullptr);
@@ -67,14 +67,14 @@ private:
         if (colors.Text != clDefault) canvas.GetFont().SetColor(colors.Text);
         canvas.GetBrush().SetStyle(bsClear);
         TRect caption{0, 0, size.Width, size.Height};
-        canvas.TextRect(caption, L"Speichern", DT_SINGLELINE | DT_CENTER | DT_VCENTER);
+        canvas.TextRect(caption, text, DT_SINGLELINE | DT_CENTER | DT_VCENTER);
     }
 
     void DrawGroups(int top, TSize size) {
         for (int group = 0; group < GlowGroupCount; ++group) {
             const int left = 24 + group * 143;
             TBitmap face;
-            DrawFace(face, size, group);
+            DrawFace(face, size, group, L"Speichern");
             GetCanvas().Draw(left, top, &face);
             DrawNote(GetCanvas(), TRect::OfSize(left, top + size.Height + 3, 115, 16),
                      GroupNames[static_cast<std::size_t>(group)]);
@@ -84,7 +84,7 @@ private:
     void DrawMagnifiedGroups(int top) {
         for (int group = 0; group < GlowGroupCount; ++group) {
             TBitmap face;
-            DrawFace(face, {32, 25}, group);
+            DrawFace(face, {32, 25}, group, L"");
             DrawMagnified(GetCanvas(), 24 + group * 143, top, face, 4, clNone);
         }
     }
@@ -103,6 +103,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreateGlowButtonPage(TComponent* owner) { return new TGlowButtonPage(owner); }
+TGalleryPage* CreateGlowButtonPage(TComponent* owner) {
+    return new TGlowButtonPage(owner);
+}
 
 }  // namespace gallery

@@ -37,8 +37,12 @@ protected:
         // The variant for white surroundings and the container stand on white.
         for (const int index : {1, 4})
             Fill(canvas, Place(index).Outer, clWhite);
-        constexpr std::array titles{L"Maske auf Skin-Hintergrund", L"Maske auf Weiß", L"Maske aus acht Bildern",
-                                    L"Ellipse", L"Container", L"Skinner um ein Textfeld"};
+        constexpr std::array titles{L"Maske auf Skin-Hintergrund",
+                                    L"Maske auf Weiß",
+                                    L"Maske aus acht Bildern",
+                                    L"Ellipse",
+                                    L"Container",
+                                    L"Skinner um ein Textfeld"};
         for (int i = 0; i < static_cast<int>(titles.size()); ++i)
             DrawNote(canvas, Place(i).Title, titles[static_cast<std::size_t>(i)]);
     }
@@ -97,13 +101,14 @@ private:
     void AddImagesMask() {
         auto* mask = new TMaskingPanelImages(this);
         constexpr std::array fields{
-            &TMaskingPanelImages::ImageTopLeft,    &TMaskingPanelImages::ImageTopMiddle,
-            &TMaskingPanelImages::ImageTopRight,   &TMaskingPanelImages::ImageBottomLeft,
+            &TMaskingPanelImages::ImageTopLeft,      &TMaskingPanelImages::ImageTopMiddle,
+            &TMaskingPanelImages::ImageTopRight,     &TMaskingPanelImages::ImageBottomLeft,
             &TMaskingPanelImages::ImageBottomMiddle, &TMaskingPanelImages::ImageBottomRight,
-            &TMaskingPanelImages::ImageLeftMiddle, &TMaskingPanelImages::ImageRightMiddle};
+            &TMaskingPanelImages::ImageLeftMiddle,   &TMaskingPanelImages::ImageRightMiddle};
         for (std::size_t i = 0; i < fields.size(); ++i) {
             auto* image = new TImage(this);
-            const std::unique_ptr<TBitmap> piece = CreateBmp(FrameResourceName(L"MASKWHITE", AllFramePositions[i]));
+            const std::unique_ptr<TBitmap> piece =
+                CreateBmp(FrameResourceName(L"MASKWHITE", AllFramePositions[i]));
             ReplaceColor(piece.get(), clWhite, GetColor());
             image->Picture().SetGraphic(piece.get());
             mask->*fields[i] = image;
@@ -143,6 +148,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreateMasksPage(TComponent* owner) { return new TMasksPage(owner); }
+TGalleryPage* CreateMasksPage(TComponent* owner) {
+    return new TMasksPage(owner);
+}
 
 }  // namespace gallery

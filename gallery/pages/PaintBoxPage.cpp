@@ -92,6 +92,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreatePaintBoxPage(TComponent* owner) { return new TPaintBoxPage(owner); }
+TGalleryPage* CreatePaintBoxPage(TComponent* owner) {
+    return new TPaintBoxPage(owner);
+}
 
 }  // namespace gallery

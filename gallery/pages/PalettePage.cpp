@@ -81,6 +81,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreatePalettePage(TComponent* owner) { return new TPalettePage(owner); }
+TGalleryPage* CreatePalettePage(TComponent* owner) {
+    return new TPalettePage(owner);
+}
 
 }  // namespace gallery

@@ -60,7 +60,7 @@ public:
         DrawFrameSample(FSamples[1]);
         DrawNoise(FSamples[2]);
         FWindow = new TShapedArea(this);
-        FWindow->SetBounds(Left(3), HeadTop + 30, 110, 110);
+        FWindow->SetBounds(Left(3), RowsTop + 18, 110, 110);
         FWindow->SetParent(this);
         FWindow->Shape.Assign(&FSamples[0]);
     }
@@ -70,7 +70,8 @@ protected:
         TCanvas& canvas = GetCanvas();
         const TRect client = GetClientRect();
         Fill(canvas, client, clWhite);
-        const int top = DrawHeading(canvas, Margin, 22, client.Right - Margin, L"Bitmap und Region");
+        const int top =
+            DrawHeading(canvas, Margin, RowsTop - 29, client.Right - Margin, L"Bitmap und Region");
         const wchar_t* rows[] = {L"Bitmap", L"Region", L"Region, umgekehrt"};
         for (int row = 0; row < 3; ++row)
             for (int column = 0; column < 3; ++column) {
@@ -79,12 +80,13 @@ protected:
                 DrawNote(canvas, TRect::OfSize(Left(column), y, 150, 16), rows[row]);
                 DrawSample(row, FSamples[static_cast<std::size_t>(column)], Left(column), y + 18);
             }
+        DrawChecker(canvas, TRect::OfSize(Left(3), top + 18, 110, 110));
         DrawNote(canvas, TRect::OfSize(Left(3), top, 150, 16), L"Fenster in dieser Form");
     }
 
 private:
     static constexpr int Margin = 24;
-    static constexpr int HeadTop = 22;
+    static constexpr int RowsTop = 51;
     static constexpr int RowHeight = 156;
 
     /// A window that takes the shape of a bitmap as soon as it exists.
@@ -128,6 +130,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreateRegionsPage(TComponent* owner) { return new TRegionsPage(owner); }
+TGalleryPage* CreateRegionsPage(TComponent* owner) {
+    return new TRegionsPage(owner);
+}
 
 }  // namespace gallery

@@ -10,7 +10,8 @@
 namespace gallery {
 namespace {
 
-constexpr std::array StateNames{L"Normal", L"Gesperrt", L"Gedrückt", L"Unter der Maus", L"Ein", L"Ein, unter der Maus"};
+constexpr std::array StateNames{L"Normal",         L"Gesperrt", L"Gedrückt",
+                                L"Unter der Maus", L"Ein",      L"Ein, unter der Maus"};
 constexpr TSize Sizes[] = {{100, 25}, {100, 21}, {84, 40}, {150, 60}};
 
 /// A skin button that also draws its picture of any state.
@@ -73,7 +74,8 @@ private:
         TShownButton button(nullptr);
         button.SetBounds(0, 0, size.Width, size.Height);
         button.SetCaption(L"Speichern");
-        const int columns = size.Width > 110 ? 4 : perRow;  // the pictures of the last two states are the pressed one
+        const int columns =
+            size.Width > 110 ? 4 : perRow;  // the pictures of the last two states are the pressed one
         for (int state = 0; state < columns; ++state) {
             const int left = 24 + state * (size.Width > 110 ? 172 : 119);
             button.DrawState(GetCanvas(), left, top, static_cast<TButtonExState>(state));
@@ -111,6 +113,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreateSkinButtonPage(TComponent* owner) { return new TSkinButtonPage(owner); }
+TGalleryPage* CreateSkinButtonPage(TComponent* owner) {
+    return new TSkinButtonPage(owner);
+}
 
 }  // namespace gallery

@@ -19,8 +19,10 @@ protected:
         const TRect client = GetClientRect();
         Fill(canvas, client, clWhite);
         int top = 22;
-        top = DrawRow(top, L"Aufgehellt (DimBitmap)", [](TBitmap& b, int percent) { DimBitmap(&b, percent); });
-        top = DrawRow(top, L"Vergraut (GrayBitmap)", [](TBitmap& b, int percent) { GrayBitmap(&b, percent); });
+        top =
+            DrawRow(top, L"Aufgehellt (DimBitmap)", [](TBitmap& b, int percent) { DimBitmap(&b, percent); });
+        top =
+            DrawRow(top, L"Vergraut (GrayBitmap)", [](TBitmap& b, int percent) { GrayBitmap(&b, percent); });
         DrawRow(top, L"Vergraut bis auf eine Farbe (hier: den Baum)",
                 [](TBitmap& b, int percent) { GrayBitmap(&b, percent, clBlack); });
     }
@@ -50,6 +52,8 @@ private:
 
 }  // namespace
 
-TGalleryPage* CreateTonesPage(TComponent* owner) { return new TTonesPage(owner); }
+TGalleryPage* CreateTonesPage(TComponent* owner) {
+    return new TTonesPage(owner);
+}
 
 }  // namespace gallery
