@@ -15,15 +15,15 @@ namespace {
 /// Bitmaps that are looked at together: those whose names start with one of the prefixes.
 struct TFamily {
     const wchar_t* Title;
-    std::array<const wchar_t*, 4> Prefixes;
+    std::array<const wchar_t*, 5> Prefixes;
 };
 
 constexpr TFamily Families[] = {
     {L"Schaltflächen", {L"SKINBUTTON"}},
     {L"Masken", {L"MASK"}},
     {L"Reiter", {L"TABDEFAULT", L"TABHOVERED", L"TABPRESSED", L"WHITETAB"}},
-    {L"Zeichen der Reiter", {L"TABANIMATION", L"TABCLOSE", L"TABLOCK", L"TABUNLOCK"}},
-    {L"Werkzeugleiste und Pfeile", {L"TOOL", L"CHEVRON", L"TABDRAG"}},
+    {L"Zeichen der Reiter", {L"TABANIMATION", L"TABCLOSE", L"TABLOCK", L"TABUNLOCK", L"TABDRAG"}},
+    {L"Werkzeugleiste und Pfeile", {L"TOOL", L"CHEVRON"}},
     {L"Köpfe und Kalender", {L"EXPLORERBAR", L"COLUMNHEADER", L"DATETIMEPICKER"}},
 };
 
@@ -68,8 +68,8 @@ private:
     static constexpr int Margin = 16;
     static constexpr int PieceCellWidth = 91;
     static constexpr int SingleCellWidth = 182;
-    static constexpr int RowHeight = 104;
-    static constexpr int PictureHeight = 66;
+    static constexpr int RowHeight = 112;
+    static constexpr int PictureHeight = 68;
 
     void ShowFamily(int index) {
         FFamily = index;
@@ -135,13 +135,32 @@ private:
         constexpr int columns = 4;
         const int left = Margin + FColumn * SingleCellWidth;
         DrawPicture(left, FTop, info, factor);
-        const TRect name = TRect::OfSize(left, FTop + PictureHeight + 2, SingleCellWidth - 6, 14);
-        DrawNote(GetCanvas(), name, info.Name);
-        TRect size = name;
-        size.Offset(0, 14);
-        DrawNote(GetCanvas(), size, Format(L"%d × %d", info.Size.Width, info.Size.Height));
+        DrawName(left, FTop + PictureHeight + 2, info);
         FColumn = (FColumn + 1) % columns;
         if (FColumn == 0) FTop += RowHeight;
+    }
+
+    /// The name, on two lines where it is too long for one, and the size.
+    void DrawName(int left, int top, const TSkinBitmapInfo& info) {
+        constexpr int width = SingleCellWidth - 8;
+        UseFont(GetCanvas(), 8);
+        const StringView name = info.Name;
+        const std::size_t first = GetCanvas().TextWidth(name) > width ? LastWordStart(name) : name.size();
+        for (const StringView line : {name.substr(0, first), name.substr(first)}) {
+            if (line.empty()) continue;
+            DrawNote(GetCanvas(), TRect::OfSize(left, top, width, 14), line);
+            top += 13;
+        }
+        DrawNote(GetCanvas(), TRect::OfSize(left, top, width, 14),
+                 Format(L"%d × %d", info.Size.Width, info.Size.Height));
+    }
+
+    /// Where the word for the state starts, or what else stands at the end of a name.
+    static std::size_t LastWordStart(StringView name) {
+        for (const TSkinState state : {ssDefault, ssHovered, ssPressed, ssDisabled})
+            if (const StringView word = SkinStateWord(state); name.ends_with(word))
+                return name.size() - word.size();
+        return std::min(name.find(L'_'), name.size() / 2);
     }
 
     /// The word at the end of the name that tells a piece of a frame; empty for other bitmaps.

@@ -18,10 +18,11 @@ constexpr const wchar_t* Kinds[] = {
     L"MASKWHITE",
 };
 
-/// The colour that the frame surrounds: that of the innermost pixel of its left edge.
-TColor InteriorColor(const TNinePartBitmaps& frame) {
+/// The colour that the frame surrounds: that of the innermost pixel of its left edge. Masks surround nothing.
+TColor InteriorColor(StringView kind, const TNinePartBitmaps& frame) {
+    if (kind.starts_with(L"MASK")) return 0x00FF00FF;
     const TBitmap& edge = frame[fposLeftCenter];
-    return edge.GetCanvas().GetPixel(edge.GetWidth() - 1, 0);
+    return edge.ReadBits().GetColor(edge.GetWidth() - 1, 0);
 }
 
 /// Frames of every family at a size that two sliders choose.
@@ -72,7 +73,7 @@ private:
         const int top = 84 + static_cast<int>(index) / 3 * cellHeight;
         DrawNote(GetCanvas(), TRect::OfSize(left, top, 220, 16), Kinds[index]);
         TBitmap frame(width, height, pf24bit);
-        ComposeNinePartFrame(frame, FFrames[index].Pieces(), InteriorColor(FFrames[index]));
+        ComposeNinePartFrame(frame, FFrames[index].Pieces(), InteriorColor(Kinds[index], FFrames[index]));
         DrawTransparentBitmap(GetCanvas(), &frame, left, top + 18, 0x00FF00FF);
     }
 

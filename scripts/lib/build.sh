@@ -37,9 +37,7 @@ build_quietly() {
     }
 }
 
-# need_program NAME: builds everything and ends if the tree has no program of that name.
+# need_program NAME: builds the program with what it needs.
 need_program() {
-    local name=$1
-    build all
-    [ -f "$BIN/$name.exe" ] || fail "This tree has no program '$name'."
+    build "$1"
 }

@@ -46,6 +46,7 @@ void TCustomMaskingPanel::Mask() {
     try {
         FMaskPanel->Hide();
         FMaskPanel->SetParent(Control);
+        FMaskPanel->SetParentColor(true);  // where no picture covers it, it is a part of the control
         FMaskPanel->SetBevelOuter(bvNone);
         FMaskPanel->SetAlign(alClient);
         ApplyMask(*CreateMask(GetMaskSize()));
