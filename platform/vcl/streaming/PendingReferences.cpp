@@ -22,17 +22,21 @@ public:
     std::vector<TEntry> Entries;
 
 protected:
-    void Notification(TComponent* component, TOperation operation) override {
-        TComponent::Notification(component, operation);
-        if (operation == opRemove)
-            std::erase_if(Entries, [&](const TEntry& entry) { return entry.Address.Component == component; });
-    }
+    void Notification(TComponent* component, TOperation operation) override;
 };
 
 /// Null while nothing is waited for.
 std::unique_ptr<TPendingReferences>& Pending() {
     static std::unique_ptr<TPendingReferences> pending;
     return pending;
+}
+
+void TPendingReferences::Notification(TComponent* component, TOperation operation) {
+    TComponent::Notification(component, operation);
+    if (operation != opRemove) return;
+    std::erase_if(Entries, [&](const TEntry& entry) { return entry.Address.Component == component; });
+    // Who tells of its end does not ask the listener anything afterwards.
+    if (Entries.empty()) Pending().reset();
 }
 
 TComponent* FindTarget(TComponent* root, StringView name) {

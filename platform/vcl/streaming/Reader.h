@@ -53,6 +53,7 @@ public:
     void Join(TLoadSession& session) { FJoined = &session; }
 
     [[nodiscard]] const std::vector<TFormProblem>& GetProblems() const { return FProblems; }
+    /// In the order of the file.
     [[nodiscard]] const std::vector<TUnreadProperty>& GetUnreadProperties() const { return FUnread; }
 
 private:

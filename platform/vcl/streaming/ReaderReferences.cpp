@@ -3,6 +3,7 @@
 #include "platform/vcl/streaming/ReaderTry.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace vcl {
 
@@ -20,6 +21,10 @@ void TReader::SetReferences() {
     for (const TReference& reference : FReferences)
         SetReference(reference);
     FReferences.clear();
+    // References that could not be set come last, but stand among the others in the file.
+    std::ranges::stable_sort(FUnread, {}, [](const TUnreadProperty& unread) {
+        return std::pair(unread.Property.Position.Line, unread.Property.Position.Column);
+    });
 }
 
 void TReader::SetReference(const TReference& reference) {

@@ -1,0 +1,7 @@
+object SampleLateBase: TSampleLateBase
+  object First: TSample
+    Partner = Second
+  end
+  object Second: TSample
+  end
+end
