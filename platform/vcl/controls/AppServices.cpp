@@ -1,6 +1,8 @@
 #include "platform/vcl/controls/AppServices.h"
 
 #include <array>
+#include <map>
+#include <utility>
 
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/Exceptions.h"
@@ -53,7 +55,11 @@ void TAppServices::HandleException(std::exception_ptr error) {
 }
 
 HCURSOR TAppServices::CursorHandle(TCursor cursor) {
-    return cursor == crNone ? nullptr : LoadCursorW(nullptr, SystemCursorName(cursor));
+    if (cursor == crNone) return nullptr;
+    static std::map<const wchar_t*, HCURSOR> loaded;
+    HCURSOR& handle = loaded[SystemCursorName(cursor)];
+    if (!handle) handle = ::LoadCursorW(nullptr, SystemCursorName(cursor));
+    return handle;
 }
 
 bool TAppServices::ProcessMessages() {

@@ -15,7 +15,6 @@ namespace vcl {
 class TBasicAction;
 class TBasicActionLink;
 class TContextMenu;
-class TDragObject;
 class TFont;
 class TWinControl;
 struct THintInfo;
@@ -172,8 +171,9 @@ public:
     /// Ends what a press began: nothing becomes a click any more.
     void CancelPress() { FControlState = FControlState - TControlState{csClicked, csLButtonDown}; }
 
-    // --- drag and drop: the switch of the control; the rest is in DragDrop.h
+    // --- drag and drop
     [[nodiscard]] TDragMode GetDragMode() const { return FDragMode; }
+    /// dmAutomatic: a press of the left button begins a drag instead of a click.
     virtual void SetDragMode(TDragMode value) { FDragMode = value; }
     [[nodiscard]] TCursor GetDragCursor() const { return FDragCursor; }
     void SetDragCursor(TCursor value) { FDragCursor = value; }
@@ -276,9 +276,9 @@ protected:
     [[noreturn]] void RaiseNoParentWindow() const;
     virtual void VisibleChanging() {}
 
-    // Drag and drop (later work fills these in; kept here so that descendants can rely on the order).
-    virtual void BeginAutoDrag() {}
-    virtual void DragCanceled() {}
+    /// A press on a control with dmAutomatic: begins the drag. False when it can't be dragged, so that the
+    /// press is one like others.
+    virtual bool BeginAutoDrag() { return false; }
 
 private:
     struct TAnchorBase {
@@ -296,6 +296,7 @@ private:
     void ApplyConstraints(int& width, int& height);
     void StoreBounds(const TRect& bounds);
     void DoActionChange(TObject* sender);
+    [[nodiscard]] bool DragsInstead();
     void PrepareMouseMessage(TMessage& message);
     // Handlers of the message map.
     void WmMouseDown(TMessage& message, TMouseButton button, bool isDouble);

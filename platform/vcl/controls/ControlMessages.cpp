@@ -39,6 +39,11 @@ void TControl::WndProc(TMessage& message) {
     Dispatch(message);
 }
 
+bool TControl::DragsInstead() {
+    const TLifeGuard guard(*this);
+    return FDragMode == dmAutomatic && (BeginAutoDrag() || !guard.IsAlive());
+}
+
 void TControl::PrepareMouseMessage(TMessage& message) {
     if (!ControlStyle.Contains(csDoubleClicks)) {
         switch (message.Msg) {
@@ -58,9 +63,8 @@ void TControl::PrepareMouseMessage(TMessage& message) {
     switch (message.Msg) {
         case WM_LBUTTONDOWN:
         case WM_LBUTTONDBLCLK:
-            if (FDragMode == dmAutomatic) {
+            if (DragsInstead()) {
                 message.Msg = WM_NULL;
-                BeginAutoDrag();
                 return;
             }
             SetControlState(csLButtonDown, true);

@@ -9,10 +9,7 @@ void TWinControl::SetBounds(int ALeft, int ATop, int AWidth, int AHeight) {
     const TLifeGuard guard(*this);
     if (!NegotiateSize(AWidth, AHeight) || !guard.IsAlive()) return;
     const TRect next = TRect::OfSize(ALeft, ATop, AWidth, AHeight);
-    if (next == GetBoundsRect()) {
-        UpdateAnchorBase();
-        return;
-    }
+    if (next == GetBoundsRect()) return;
     if (FHandle)
         MoveWindowTo(next);
     else

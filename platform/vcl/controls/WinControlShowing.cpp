@@ -18,14 +18,14 @@ void TWinControl::UpdateControlState() {
 }
 
 void TWinControl::UpdateShowing() {
+    if (IsInState(csDestroying)) return;
     const TLifeGuard guard(*this);
-    const bool show = IsShown() && !IsInState(csLoading) && !IsInState(csDestroying);
+    const bool show = IsShown() && !IsInState(csLoading);
     if (show) {
         if (!FHandle) {
             FComesShown = true;
             CreateHandle();
             if (!guard.IsAlive()) return;
-            FComesShown = false;
         }
         // From the top down: each new window comes below its siblings by itself.
         for (std::size_t i = FWinControls.size(); i > 0; i = std::min(i - 1, FWinControls.size())) {

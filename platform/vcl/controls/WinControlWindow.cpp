@@ -14,6 +14,13 @@ HINSTANCE ThisModule() {
     return module;
 }
 
+/// Looked up once: the system asks for the size of cursors each time, which costs more than the rest of
+/// making the parameters.
+HCURSOR ArrowCursor() {
+    static const HCURSOR arrow = ::LoadCursorW(nullptr, IDC_ARROW);
+    return arrow;
+}
+
 /// Sets a state for the length of a scope, as long as the control lives.
 class TStateScope {
 public:
@@ -80,7 +87,7 @@ void TWinControl::CreateParams(TCreateParams& params) {
     params.WindowClass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
     params.WindowClass.lpfnWndProc = ::DefWindowProcW;
     params.WindowClass.hInstance = ThisModule();
-    params.WindowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    params.WindowClass.hCursor = ArrowCursor();
     params.WinClassName = ClassName();
 }
 
@@ -102,10 +109,11 @@ void TWinControl::CreateWindowHandle(const TCreateParams& params) {
 }
 
 void TWinControl::CreateWnd() {
+    const bool comesShown = std::exchange(FComesShown, false);
     TCreateParams params;
     CreateParams(params);
     if ((params.Style & WS_CHILD) && !params.WndParent) RaiseNoParentWindow();
-    if ((params.Style & WS_CHILD) && FComesShown) params.Style |= WS_VISIBLE;
+    if ((params.Style & WS_CHILD) && comesShown) params.Style |= WS_VISIBLE;
     FDefWndProc = params.WindowClass.lpfnWndProc;
     params.WinClassName = RegisterControlClass(params, &TWinControl::WindowProcedure);
     {
