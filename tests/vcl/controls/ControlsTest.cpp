@@ -7,12 +7,15 @@
 namespace test {
 namespace {
 
-/// Lets the controls have key messages before any message loop dispatches them.
-LRESULT CALLBACK OfferKeys(int code, WPARAM removed, LPARAM lParam) {
-    auto& message = *reinterpret_cast<MSG*>(lParam);
-    if (code == HC_ACTION && removed == PM_REMOVE && OfferKeyMessage(message)) message.message = WM_NULL;
-    return CallNextHookEx(nullptr, code, removed, lParam);
-}
+/// A message loop as programs have it: controls are offered key messages first.
+class KeyOfferingLoop : public MessageLoop {
+public:
+    void Handle(MSG& message) override {
+        if (OfferKeyMessage(message)) return;
+        TranslateMessage(&message);
+        DispatchMessageW(&message);
+    }
+};
 
 }  // namespace
 
@@ -105,7 +108,7 @@ void ControlsTest::SetUp() {
         (void)Services.CursorHandle(cursor);
     LedgerTest::SetUp();
     FFormerServices = SetAppServices(&Services);
-    FHook = SetWindowsHookExW(WH_GETMESSAGE, OfferKeys, nullptr, GetCurrentThreadId());
+    FLoop = std::make_unique<KeyOfferingLoop>();
     Top = new TestWindow({100, 100, 500, 400});
     Form = new TProbeForm(nullptr);
     Form->SetBounds(0, 0, 400, 300);
@@ -116,7 +119,7 @@ void ControlsTest::SetUp() {
 void ControlsTest::TearDown() {
     if (Form) Form->Free();
     delete Top;
-    UnhookWindowsHookEx(FHook);
+    FLoop.reset();
     SetAppServices(FFormerServices);
     for (const String& error : Services.Errors)
         ADD_FAILURE() << "escaped from a handler: " << ToUtf8(error);

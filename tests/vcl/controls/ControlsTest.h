@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <exception>
+#include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -116,7 +118,7 @@ protected:
 
 private:
     TAppServices* FFormerServices = nullptr;
-    HHOOK FHook = nullptr;
+    std::unique_ptr<MessageLoop> FLoop;
 };
 
 /// Notes the names of what happens, for tests about order.

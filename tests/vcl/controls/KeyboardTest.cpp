@@ -101,10 +101,14 @@ TEST_F(Keyboard, AControlKeepsKeysByDialogCode) {
     EXPECT_EQ(Taken(), Log{"down 37"});
     Input.KeyDown(VK_TAB);
     EXPECT_EQ(DialogKeys, std::vector<WORD>{VK_TAB});
-    Keys->DialogCode = DLGC_WANTALLKEYS;
+    Keys->DialogCode = DLGC_WANTTAB;
     Input.KeyDown(VK_TAB);
+    EXPECT_EQ(DialogKeys, std::vector<WORD>{VK_TAB});
+    Keys->DialogCode = DLGC_WANTALLKEYS;
     Input.KeyDown(VK_ESCAPE);
-    EXPECT_EQ(DialogKeys.size(), 1u);
+    EXPECT_EQ(DialogKeys, std::vector<WORD>{VK_TAB});
+    Input.KeyDown(VK_TAB);
+    EXPECT_EQ(DialogKeys.size(), 2u) << "Tab is kept by its own name only";
 }
 
 TEST_F(Keyboard, AControlKeepsKeysByWantSpecialKey) {
