@@ -9,6 +9,7 @@
 #include "platform/vcl/graphics/BitmapFile.h"
 #include "platform/vcl/graphics/BitmapImage.h"
 #include "platform/vcl/graphics/GdiErrors.h"
+#include "platform/vcl/graphics/KeyedCopy.h"
 
 namespace vcl {
 namespace {
@@ -167,7 +168,8 @@ void TBitmap::Draw(TCanvas& canvas, const TRect& rect) const {
 
 void TBitmap::DrawTransparent(TCanvas& canvas, const TRect& rect) const {
     const bool scaled = rect.Width() != FWidth || rect.Height() != FHeight;
-    if (!scaled && HasByteBits() && DrawKeyed(canvas, rect.TopLeft())) return;
+    if (!scaled && HasByteBits() && CopyKeyed(canvas, rect, ReadBits(), ColorToRGB(GetTransparentColor())))
+        return;
     // A copy: drawing on this very bitmap drops the pair.
     const TBitmapImage::TMaskPair pair = FImage->MaskFor(GetTransparentColor());
     const TRect all{0, 0, FWidth, FHeight};
@@ -175,22 +177,6 @@ void TBitmap::DrawTransparent(TCanvas& canvas, const TRect& rect) const {
     const HDC picture = pair.Picture->OpenDC();
     canvas.CopyFrom(rect, mask, all, cmSrcAnd);
     canvas.CopyFrom(rect, picture, all, cmSrcPaint);
-}
-
-/// Writes to the memory of another bitmap, which is many times faster than two raster operations of different
-/// depths. False where there is no such memory.
-bool TBitmap::DrawKeyed(TCanvas& canvas, TPoint place) const {
-    const auto target = canvas.DirectBits();
-    const TConstBitmapBits source = ReadBits();
-    if (!target || target->Bits.Data == source.Data) return false;
-    const TColor key = ColorToRGB(GetTransparentColor());
-    const TRect area = TRect::OfSize(place.X, place.Y, FWidth, FHeight).Intersect(target->Clip);
-    for (int y = area.Top; y < area.Bottom; ++y)
-        for (int x = area.Left; x < area.Right; ++x) {
-            const TColor color = source.GetColor(x - place.X, y - place.Y);
-            if (color != key) target->Bits.SetColor(x, y, color);
-        }
-    return true;
 }
 
 TColor TBitmap::GetTransparentColor() const {

@@ -118,7 +118,6 @@ private:
     void Unshare();
     void TakeImage(std::shared_ptr<TBitmapImage> image, TPixelFormat format);
     void DrawTransparent(TCanvas& canvas, const TRect& rect) const;
-    bool DrawKeyed(TCanvas& canvas, TPoint place) const;
 
     std::shared_ptr<TBitmapImage> FImage;
     std::unique_ptr<TBitmapCanvas> FCanvas;
