@@ -54,9 +54,7 @@ void TFlickerFreePaintBox::Resize() {
 }
 
 void TFlickerFreePaintBox::DoFFPaint() {
-    // The handler may change the control's size, or free the control, while it paints.
-    const std::shared_ptr<TBitmap> buffer = FBuffer;
-    OnFFPaint(this, buffer.get());
+    OnFFPaint(this, FBuffer.get());
 }
 
 void TFlickerFreePaintBox::ReAssignBufferFont() {
@@ -70,11 +68,12 @@ void TFlickerFreePaintBox::Repaint() {
     canvas.GetBrush().SetColor(GetColor());
     canvas.FillRect({0, 0, FBuffer->GetWidth(), FBuffer->GetHeight()});
 
+    // Whoever paints may change the control's size, which makes a new buffer, or free the control.
     const TLifeGuard guard(*this);
     const std::shared_ptr<TBitmap> painted = FBuffer;
     DoFFPaint();
     if (!guard.IsAlive()) return;
-    FNeedsPaint = FBuffer != painted;  // the handler changed the size, and so the buffer
+    FNeedsPaint = FBuffer != painted;
     if (FNeedsPaint)
         Invalidate();
     else

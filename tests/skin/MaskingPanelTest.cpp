@@ -291,6 +291,18 @@ TEST_F(MaskingPanelTest, TheEllipseCoversTheCornersWithTheControlsColor) {
                            BitmapToRegion(masking.CreateMask({100, 40}).get(), false)));
 }
 
+TEST_F(MaskingPanelTest, TheEllipseHidesWhatStandsInTheCorners) {
+    MakePanel({0, 0, 100, 40}, clRed, FMasked);
+    TMaskingPanelEllipse masking(nullptr);
+    masking.Control = FMasked;
+    masking.Mask();
+    const auto mask = masking.CreateMask({100, 40});
+    const Pixels picture = PixelsOf(*mask);
+    EXPECT_TRUE(SamePixels(Shown(*FMasked), [&](int x, int y) {
+        return picture.At(x, y) == Magenta ? COLORREF{clRed} : COLORREF{PanelColor};
+    }));
+}
+
 // --- The frame of eight image controls
 
 class MaskingPanelImagesTest : public MaskingPanelTest {
