@@ -23,7 +23,9 @@ void TWinControl::UpdateShowing() {
     const bool show = IsShown() && !IsInState(csLoading);
     if (show) {
         if (!FHandle) {
-            FComesShown = true;
+            // In sight already, it would be painted before its children are there.
+            const bool inSight = !GetParent() || GetParent()->GetShowing();
+            FComesShown = FWinControls.empty() || !inSight;
             CreateHandle();
             if (!guard.IsAlive()) return;
         }

@@ -271,6 +271,52 @@ TEST_F(ControlMouse, ARightClickOpensThePopupMenuOfTheControlUnderIt) {
     EXPECT_EQ(innerMenu.At, TPoint());
 }
 
+class TDraggable : public TProbeWindow {
+public:
+    using TProbeWindow::TProbeWindow;
+    bool Drags = true;
+
+protected:
+    bool BeginAutoDrag() override { return Drags; }
+};
+
+TEST_F(ControlMouse, AnAutomaticDragReplacesThePress) {
+    auto* window = Make<TDraggable>({10, 10, 60, 60});
+    Input.MoveTo(window->WindowHandle(), 5, 5);
+    Note(window, "w");
+    window->SetDragMode(dmAutomatic);
+    Input.Press();
+    EXPECT_EQ(Taken(), Log{});
+    Input.Release();
+    (void)Taken();
+    window->Drags = false;
+    Input.Click();
+    EXPECT_EQ(Taken(), (Log{"w down", "w click", "w up"}));
+    window->Drags = true;
+    window->SetDragMode(dmManual);
+    Input.Click();
+    EXPECT_EQ(Taken(), (Log{"w down", "w click", "w up"}));
+}
+
+TEST_F(ControlMouse, AClickAsksWhetherToActivate) {
+    auto* window = Make<TProbeWindow>({10, 10, 60, 60});
+    Log seen;
+    window->OnMouseActivate = [&](TObject*, TMouseButton button, TShiftState, int x, int y, UINT hitTest,
+                                  TMouseActivate& answer) {
+        seen.push_back(std::to_string(button == mbRight) + " " + std::to_string(x) + " " + std::to_string(y) +
+                       " " + std::to_string(hitTest == HTCLIENT));
+        answer = maNoActivateAndEat;
+    };
+    Note(window, "w");
+    Input.MoveTo(window->WindowHandle(), 5, 6);
+    (void)Taken();
+    // Only an inactive window is asked.
+    const TestWindow other({600, 100, 700, 200});
+    Input.Click(MouseButton::Right);
+    EXPECT_EQ(seen, Log{"1 5 6 1"});
+    EXPECT_EQ(Taken(), Log{}) << "the press was eaten";
+}
+
 TEST_F(ControlMouse, FindsControlsFromScreenPoints) {
     auto* window = Make<TProbeWindow>({10, 10, 60, 60});
     auto* inner = Make<TProbeGraphic>({10, 10, 30, 30}, window);

@@ -53,6 +53,53 @@ TEST_F(WindowLife, TheWindowClassIsNamedAfterTheControlsClass) {
     EXPECT_STREQ(name, L"TCustomControl") << "the nearest class with a description";
 }
 
+/// Same name, other style bits.
+class TSavingWindow : public TProbeWindow {
+public:
+    using TProbeWindow::TProbeWindow;
+
+protected:
+    void CreateParams(TCreateParams& params) override {
+        TProbeWindow::CreateParams(params);
+        params.WindowClass.style |= CS_SAVEBITS;
+    }
+};
+
+TEST_F(WindowLife, OtherStyleBitsMakeAnotherWindowClass) {
+    const auto className = [](TWinControl* control) {
+        wchar_t name[64] = {};
+        GetClassNameW(control->WindowHandle(), name, 64);
+        return String(name);
+    };
+    auto* plain = Make<TProbeWindow>({0, 0, 10, 10});
+    auto* first = Make<TSavingWindow>({0, 0, 10, 10});
+    auto* second = Make<TSavingWindow>({0, 0, 10, 10});
+    EXPECT_NE(className(first), className(plain));
+    EXPECT_EQ(className(first), className(second));
+    EXPECT_NE(GetClassLongPtrW(first->WindowHandle(), GCL_STYLE) & CS_SAVEBITS, 0u);
+    EXPECT_EQ(GetClassLongPtrW(plain->WindowHandle(), GCL_STYLE) & CS_SAVEBITS, 0u);
+}
+
+TEST_F(WindowLife, ASubstituteProcedureSeesMessagesFirst) {
+    auto* window = Make<TProbeWindow>({0, 0, 10, 10});
+    int own = 0;
+    window->MessageHook = [&](TMessage& m) { own += m.Msg == WM_USER + 7; };
+    window->WindowProc = [&](TMessage& m) {
+        if (m.Msg == WM_USER + 7 && m.WParam == 1) {
+            m.Result = 77;
+            return;
+        }
+        window->DefaultWindowProc(m);
+    };
+    EXPECT_EQ(SendMessageW(window->WindowHandle(), WM_USER + 7, 1, 0), 77);
+    EXPECT_EQ(own, 0);
+    EXPECT_EQ(window->Perform(WM_USER + 7, 2), 0);
+    EXPECT_EQ(own, 1);
+    window->WindowProc.Clear();
+    EXPECT_EQ(window->Perform(WM_USER + 7, 1), 0);
+    EXPECT_EQ(own, 2);
+}
+
 TEST_F(WindowLife, ZOrderIsThatOfTheListHoweverTheWindowsCame) {
     auto* a = Make<TProbeWindow>({0, 0, 10, 10});
     auto* hidden = new TProbeWindow(nullptr);
@@ -139,6 +186,18 @@ TEST_F(WindowLife, ShowingIsAnnouncedWhenTheWindowAppearsAndGoes) {
     outer->Hide();
     outer->Show();
     EXPECT_EQ(seen, (std::vector<bool>{true, false, true}));
+}
+
+TEST_F(WindowLife, AParentInSightAppearsAfterItsChildren) {
+    auto* outer = new TProbeWindow(nullptr);
+    auto* inner = Make<TProbeWindow>({0, 0, 10, 10}, outer);
+    bool childWasThere = false;
+    outer->MessageHook = [&](TMessage& m) {
+        if (m.Msg == WM_SHOWWINDOW && m.WParam) childWasThere = inner->HandleAllocated();
+    };
+    outer->SetParent(Form);
+    EXPECT_TRUE(childWasThere);
+    EXPECT_TRUE(IsWindowVisible(inner->WindowHandle()));
 }
 
 TEST_F(WindowLife, AParentFreesItsChildrenWhoeverOwnsThem) {
