@@ -193,7 +193,8 @@ TEST_F(WindowLife, AParentInSightAppearsAfterItsChildren) {
     auto* inner = Make<TProbeWindow>({0, 0, 10, 10}, outer);
     bool childWasThere = false;
     outer->MessageHook = [&](TMessage& m) {
-        if (m.Msg == WM_SHOWWINDOW && m.WParam) childWasThere = inner->HandleAllocated();
+        if (m.Msg == WM_WINDOWPOSCHANGED && (m.As<WINDOWPOS>()->flags & SWP_SHOWWINDOW))
+            childWasThere = inner->HandleAllocated();
     };
     outer->SetParent(Form);
     EXPECT_TRUE(childWasThere);
