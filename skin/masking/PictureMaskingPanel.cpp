@@ -35,7 +35,7 @@ void TCustomPictureMaskingPanel::Unmask() {
 }
 
 void TCustomPictureMaskingPanel::DrawMaskToImage(TImage& Image) {
-    Image.Picture().SetGraphic(CreateMask(GetMaskSize()).get());
+    Image.GetPicture().SetGraphic(CreateMask(GetMaskSize()).get());
 }
 
 void TCustomPictureMaskingPanel::Notification(TComponent* component, TOperation operation) {

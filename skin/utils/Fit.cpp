@@ -36,7 +36,7 @@ void DisplayStretchedBitmapInImage(const TBitmap* Bitmap, TImage* Image) {
     shown.GetCanvas().StretchDraw(ProportionalDestRect(Bitmap->GetWidth(), Bitmap->GetHeight(),
                                                        Image->GetWidth(), Image->GetHeight(), true),
                                   Bitmap);
-    Image->Picture().SetGraphic(&shown);
+    Image->GetPicture().SetGraphic(&shown);
     Image->Refresh();
 }
 

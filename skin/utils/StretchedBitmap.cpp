@@ -42,7 +42,7 @@ void ShowWidened(const TBitmap& bitmap, const TBitmap& column, int split, std::o
     wide.SetTransparentColor(
         transparent ? *transparent : wide.GetCanvas().GetPixel(wide.GetWidth() - 1, wide.GetHeight() / 2));
     wide.SetTransparent(true);
-    image.Picture().SetGraphic(&wide);
+    image.GetPicture().SetGraphic(&wide);
     image.SetTransparent(true);
     image.Refresh();
 }

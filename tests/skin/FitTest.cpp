@@ -55,9 +55,9 @@ TEST(ProportionalDestRectTest, SizesAreTruncated) {
 
 class DisplayStretchedTest : public test::LedgerTest {
 protected:
-    [[nodiscard]] test::Pixels Shown() { return PixelsOf(FImage.Picture().GetBitmap()); }
+    [[nodiscard]] test::Pixels Shown() { return PixelsOf(FImage.GetPicture().GetBitmap()); }
     void TearDown() override {
-        FImage.Picture().SetGraphic(nullptr);
+        FImage.GetPicture().SetGraphic(nullptr);
         LedgerTest::TearDown();
     }
     TImage FImage{nullptr};

@@ -328,7 +328,7 @@ protected:
     }
     void ShowPieces(const TNinePartBitmaps& pieces) {
         for (std::size_t i = 0; i < FImages.size(); ++i)
-            FImages[i]->Picture().SetGraphic(&pieces[AllFramePositions[i]]);
+            FImages[i]->GetPicture().SetGraphic(&pieces[AllFramePositions[i]]);
     }
     using TField = TImage* TMaskingPanelImages::*;
     static std::array<TField, 8> FieldsInOrderOfPositions() {
@@ -363,10 +363,10 @@ TEST_F(MaskingPanelImagesTest, AMissingImageOrPictureMasksNothing) {
         FMasking->Mask();
         EXPECT_FALSE(FMasking->GetMasked()) << i;
         (*FMasking).*fields[i] = FImages[i].get();
-        FImages[i]->Picture().SetGraphic(nullptr);
+        FImages[i]->GetPicture().SetGraphic(nullptr);
         FMasking->Mask();
         EXPECT_FALSE(FMasking->GetMasked()) << i;
-        FImages[i]->Picture().SetGraphic(&(*FPieces)[AllFramePositions[i]]);
+        FImages[i]->GetPicture().SetGraphic(&(*FPieces)[AllFramePositions[i]]);
     }
     FMasking->Mask();
     EXPECT_TRUE(FMasking->GetMasked());

@@ -15,9 +15,9 @@ using test::Pixels;
 
 class StretchedBitmapTest : public test::LedgerTest {
 protected:
-    [[nodiscard]] TBitmap& Shown() { return FImage.Picture().GetBitmap(); }
+    [[nodiscard]] TBitmap& Shown() { return FImage.GetPicture().GetBitmap(); }
     void TearDown() override {
-        FImage.Picture().SetGraphic(nullptr);
+        FImage.GetPicture().SetGraphic(nullptr);
         LedgerTest::TearDown();
     }
     TImage FImage{nullptr};

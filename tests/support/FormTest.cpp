@@ -21,8 +21,10 @@ void FormTest::SetUp() {
 void FormTest::TearDown() {
     FForm.reset();
     EXPECT_EQ(Errors, std::vector<std::string>()) << "errors that escaped from handlers";
-    vcl::Application().CancelHint();
     PumpAll();
+    // What the pointer was on is gone.
+    vcl::Application().CancelHint();
+    vcl::Application().DoIdle();
     vcl::Application().OnException.Clear();
     FLoop.reset();
     LedgerTest::TearDown();

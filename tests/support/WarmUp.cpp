@@ -6,6 +6,7 @@
 
 #include <utility>
 
+#include "platform/vcl/controls/AppServices.h"
 #include "tests/support/Pump.h"
 
 namespace test {
@@ -29,6 +30,14 @@ void LoadThemePictures() {
         CloseThemeData(theme);
     }
     DeleteDC(dc);
+}
+
+void LoadSystemPictures() {
+    for (const wchar_t* icon : {IDI_APPLICATION, IDI_HAND, IDI_QUESTION, IDI_EXCLAMATION, IDI_ASTERISK})
+        LoadIconW(nullptr, icon);
+    vcl::TAppServices builtIn;
+    for (vcl::TCursor cursor = vcl::crSizeAll; cursor <= vcl::crArrow; ++cursor)
+        (void)builtIn.CursorHandle(cursor);
 }
 
 void MakeSystemBrushes() {
@@ -66,6 +75,7 @@ void WarmUpSystem() {
     static bool done = false;
     if (std::exchange(done, true)) return;
     MakeSystemBrushes();
+    LoadSystemPictures();
     LoadThemePictures();
     ShowWindows();
 }

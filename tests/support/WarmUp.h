@@ -2,8 +2,8 @@
 
 namespace test {
 
-/// Makes the system create, once per process, what it keeps after its first use: stock brushes, menus, the
-/// pictures of the theme. From then on counts of its objects are exact.
+/// Makes the system create, once per process, what it keeps after its first use: brushes, cursors, icons,
+/// menus, the pictures of the theme. From then on counts of its objects are exact.
 void WarmUpSystem();
 
 }  // namespace test

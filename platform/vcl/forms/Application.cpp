@@ -108,10 +108,6 @@ void TApplication::SetTitle(const String& value) {
     ::SetWindowTextW(FWindow->Handle(), value.c_str());
 }
 
-TIcon& TApplication::Icon() {
-    return *FIcon;
-}
-
 void TApplication::IconChanged(TObject*) {
     const std::vector<TCustomForm*> forms = Screen().Forms();
     for (TCustomForm* form : forms)

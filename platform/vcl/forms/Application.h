@@ -63,6 +63,7 @@ public:
     void Run();
     /// Ends all message loops once the message under way has been handled.
     void Terminate();
+    /// True from there until `Run` returns.
     [[nodiscard]] bool GetTerminated() const { return FTerminated; }
     [[nodiscard]] TCustomForm* GetMainForm() const { return FMainForm; }
     /// Makes another form the main one (null: none).
@@ -74,7 +75,8 @@ public:
     /// The name of the program in message boxes and task lists; the program file's name at first.
     void SetTitle(const String& value);
     [[nodiscard]] String GetExeName() const;
-    [[nodiscard]] TIcon& Icon();
+    /// The program's icon, from its resource "MAINICON" at first; forms without an icon of their own show it.
+    [[nodiscard]] TIcon& GetIcon() const { return *FIcon; }
     /// The hidden window that stands for the program; forms without another owner belong to it.
     [[nodiscard]] HWND GetHandle();
     void Minimize();

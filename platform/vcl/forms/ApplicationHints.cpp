@@ -31,22 +31,26 @@ int RoomBelowPointer() {
 
 }  // namespace
 
-TApplicationHints::TApplicationHints(TApplication& application) : FApplication(application) {}
-
-TApplicationHints::~TApplicationHints() = default;
-
-void TApplicationHints::SetControl(TControl* control) {
+void TControlReference::Set(TControl* control) {
     FControl = control;
     FGuard.reset();
     if (control) FGuard.emplace(*control);
 }
 
+TApplicationHints::TApplicationHints(TApplication& application)
+    : FApplication(application), FTimer(std::make_unique<TTimer>(nullptr)) {
+    FTimer->SetEnabled(false);
+    FTimer->OnTimer = {this, &TApplicationHints::TimerElapsed};
+}
+
+TApplicationHints::~TApplicationHints() = default;
+
 // --- what the pointer does
 
 void TApplicationHints::MouseMessage(TControl* control, const TMessage& message) {
     if (message.Msg != WM_MOUSEMOVE) return;
-    if (control != FPointed) {
-        FPointed = control;
+    if (control != FPointed.Get()) {
+        FPointed.Set(control);
         const TLifeGuard guard(*control);
         FApplication.SetHint(GetLongHint(HintOf(control)));
         if (!guard.IsAlive()) return;
@@ -54,7 +58,7 @@ void TApplicationHints::MouseMessage(TControl* control, const TMessage& message)
     TControl* hinting = FApplication.GetShowHint() ? HintingControl(control) : nullptr;
     if (!hinting)
         Cancel();
-    else if (hinting != Control() ||
+    else if (hinting != FControl.Get() ||
              !FCursorRect.Contains(hinting->ScreenToClient(control->ClientToScreen(message.Pos()))))
         PointerOn(hinting, control->ClientToScreen(message.Pos()));
 }
@@ -63,11 +67,11 @@ void TApplicationHints::MouseMessage(TControl* control, const TMessage& message)
 void TApplicationHints::PointerOn(TControl* control, TPoint screenPos) {
     const bool wasShown = FShown;
     Hide();
-    SetControl(control);
+    FControl.Set(control);
     FCursorRect = control->GetClientRect();
     int pause = wasShown ? FApplication.GetHintShortPause() : FApplication.GetHintPause();
     control->Perform(CM_HINTSHOWPAUSE, wasShown, &pause);
-    if (!Control()) return;
+    if (!FControl.Get()) return;
     if (wasShown && pause == 0)
         Show(screenPos);
     else
@@ -75,12 +79,12 @@ void TApplicationHints::PointerOn(TControl* control, TPoint screenPos) {
 }
 
 void TApplicationHints::QueueMessage(const MSG& message) {
-    if (FShown && FWindow && FWindow->IsHintMsg(message)) Cancel();
+    if (FWindow && FWindow->IsHintMsg(message)) Cancel();
 }
 
 void TApplicationHints::Idle() {
-    if (!FPointed || GetMouseControl()) return;
-    FPointed = nullptr;
+    if (!FPointed.IsSet() || (FPointed.Get() && GetMouseControl())) return;
+    FPointed.Set(nullptr);
     FApplication.SetHint(String());
     Cancel();
 }
@@ -88,10 +92,6 @@ void TApplicationHints::Idle() {
 // --- time
 
 void TApplicationHints::Wait(int milliseconds) {
-    if (!FTimer) {
-        FTimer = std::make_unique<TTimer>(nullptr);
-        FTimer->OnTimer = {this, &TApplicationHints::TimerElapsed};
-    }
     FTimer->SetEnabled(false);
     FTimer->SetInterval(static_cast<unsigned>(milliseconds > 0 ? milliseconds : 1));
     FTimer->SetEnabled(true);
@@ -123,9 +123,9 @@ void TApplicationHints::ShowFor(TControl& control, TPoint cursorPos) {
     info.CursorPos = control.ScreenToClient(cursorPos);
     info.HideTimeout = FApplication.GetHintHidePause();
     info.HintStr = GetShortHint(HintOf(&control));
-    SetControl(&control);
+    FControl.Set(&control);
     const bool wanted = Ask(control, info);
-    if (!Control()) return Cancel();
+    if (!FControl.Get()) return Cancel();
     FCursorRect = info.CursorRect;
     if (!wanted || info.HintStr.empty()) return Hide();
     Open(info);
@@ -141,7 +141,7 @@ bool TApplicationHints::Ask(TControl& control, THintInfo& info) {
 }
 
 void TApplicationHints::Open(THintInfo& info) {
-    if (!FWindow) FWindow = std::make_unique<THintWindow>(nullptr);
+    FWindow = std::make_unique<THintWindow>(nullptr);
     FWindow->SetColor(info.HintColor);
     TRect rect = FWindow->CalcHintRect(info.HintMaxWidth, info.HintStr);
     rect.Offset(info.HintPos.X, info.HintPos.Y);
@@ -152,15 +152,15 @@ void TApplicationHints::Open(THintInfo& info) {
 }
 
 void TApplicationHints::Hide() {
-    if (FTimer) FTimer->SetEnabled(false);
-    if (FWindow) FWindow->ReleaseHandle();
+    FTimer->SetEnabled(false);
+    FWindow.reset();
     FShown = false;
 }
 
 void TApplicationHints::Cancel() {
-    if (!FControl && !FShown) return;
+    if (!FControl.IsSet() && !FShown) return;
     Hide();
-    SetControl(nullptr);
+    FControl.Set(nullptr);
 }
 
 }  // namespace vcl

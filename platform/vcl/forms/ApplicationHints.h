@@ -15,6 +15,20 @@ class THintWindow;
 class TTimer;
 struct THintInfo;
 
+/// Remembers a control that may be freed meanwhile.
+class TControlReference {
+public:
+    /// The control, or null when there is none or it was freed.
+    [[nodiscard]] TControl* Get() const { return FGuard && FGuard->IsAlive() ? FControl : nullptr; }
+    /// True when a control was set and not cleared, be it alive or not.
+    [[nodiscard]] bool IsSet() const { return FControl != nullptr; }
+    void Set(TControl* control);
+
+private:
+    TControl* FControl = nullptr;
+    std::optional<TLifeGuard> FGuard;
+};
+
 /// The hints of the application: waits while the pointer rests on a control that has one, shows it, and takes
 /// it away after its time or when the pointer goes on.
 class TApplicationHints {
@@ -43,16 +57,13 @@ private:
     [[nodiscard]] bool Ask(TControl& control, THintInfo& info);
     void Open(THintInfo& info);
     void Hide();
-    [[nodiscard]] TControl* Control() const { return FGuard && FGuard->IsAlive() ? FControl : nullptr; }
-    void SetControl(TControl* control);
 
     TApplication& FApplication;
     std::unique_ptr<TTimer> FTimer;
     std::unique_ptr<THintWindow> FWindow;
-    TControl* FControl = nullptr;  ///< For whom a hint waits or was shown; valid while the guard says so.
-    std::optional<TLifeGuard> FGuard;
-    TControl* FPointed = nullptr;  ///< Whose texts `Hint` shows; compared only, never used.
-    TRect FCursorRect;             ///< Of the control, in client pixels: leaving it ends the hint.
+    TControlReference FControl;  ///< For whom a hint waits or was shown.
+    TControlReference FPointed;  ///< What is under the pointer, whose long text the application tells.
+    TRect FCursorRect;           ///< Of the control, in client pixels: leaving it ends the hint.
     bool FShown = false;
     bool FReshow = false;  ///< The timer asks again instead of hiding.
 };

@@ -18,10 +18,11 @@ void TApplication::Run() {
     } catch (...) {
         HandleException(this);
     }
-    while (!FTerminated && FMainForm)
+    while (!FTerminated)
         HandleMessage();
     --FRunLevel;
     DestroyComponents();
+    FTerminated = false;
 }
 
 void TApplication::Terminate() {

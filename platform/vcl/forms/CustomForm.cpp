@@ -36,6 +36,7 @@ TCustomForm::~TCustomForm() {
     RaiseDestroyFromDestructor();
     Destroying();
     Screen().RemoveForm(this);
+    std::erase(Application().FReleasedForms, this);
     if (FMenu) FMenu->SetWindowHandle(nullptr);
     if (HandleAllocated()) TCustomForm::DestroyWindowHandle();
 }

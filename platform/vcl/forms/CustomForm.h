@@ -68,9 +68,8 @@ public:
     void SetWindowState(TWindowState value);
     [[nodiscard]] TFormStyle GetFormStyle() const { return FFormStyle; }
     void SetFormStyle(TFormStyle value);
-    [[nodiscard]] const TIcon& GetIcon() const { return *FIcon; }
     /// The icon of caption and task bar; empty: that of the application.
-    [[nodiscard]] TIcon& Icon() { return *FIcon; }
+    [[nodiscard]] TIcon& GetIcon() const { return *FIcon; }
     void SetIcon(const TIcon& value);
     [[nodiscard]] TPopupMode GetPopupMode() const { return FPopupMode; }
     void SetPopupMode(TPopupMode value);

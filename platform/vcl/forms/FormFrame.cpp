@@ -41,9 +41,13 @@ void TCustomForm::SetWindowState(TWindowState value) {
 void TCustomForm::SetFormStyle(TFormStyle value) {
     if (value == FFormStyle) return;
     FFormStyle = value;
-    if (HandleAllocated() && !IsInState(csDesigning) && !GetParent())
-        ::SetWindowPos(WindowHandle(), value == fsStayOnTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-                       SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    if (!HandleAllocated() || IsInState(csDesigning) || GetParent()) return;
+    const bool onTop = value == fsStayOnTop;
+    ::SetWindowPos(WindowHandle(), onTop ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    // Wine leaves owned windows on top; a new window starts from its styles.
+    const bool isOnTop = (::GetWindowLongW(WindowHandle(), GWL_EXSTYLE) & WS_EX_TOPMOST) != 0;
+    if (isOnTop != onTop) RecreateWnd();
 }
 
 void TCustomForm::SetAlphaBlend(bool value) {
@@ -141,13 +145,15 @@ TRect TCustomForm::GetFrameInsets() const {
 void TCustomForm::CreateParams(TCreateParams& params) {
     TScrollingWinControl::CreateParams(params);
     params.WindowClass.style = CS_DBLCLKS;
+    const bool isChild = GetParent() || GetParentWindow();
+    // The styles of tab stops are the boxes of a caption in top-level windows.
+    if (!isChild) params.Style &= ~DWORD{WS_CHILD | WS_TABSTOP | WS_GROUP};
     params.Style |= FrameStyle();
     params.ExStyle |= FrameExStyle();
-    if (GetParent() || GetParentWindow()) {
+    if (isChild) {
         params.Style &= ~DWORD{WS_POPUP};
         return;
     }
-    params.Style &= ~DWORD{WS_CHILD | WS_TABSTOP};
     params.WndParent = GetOwnerWindow();
     const bool isOverlapped = (params.Style & WS_POPUP) == 0;
     if (!isOverlapped || IsInState(csDesigning)) return;
@@ -198,7 +204,7 @@ void TCustomForm::IconChanged(TObject*) {
 
 void TCustomForm::ApplyIcon() {
     if (!HandleAllocated() || GetParent() || FBorderStyle == bsDialog) return;
-    const TIcon& icon = FIcon->GetEmpty() ? Application().Icon() : *FIcon;
+    const TIcon& icon = FIcon->GetEmpty() ? Application().GetIcon() : *FIcon;
     const auto handle = reinterpret_cast<LPARAM>(icon.GetHandle());
     for (const WPARAM size : {WPARAM{ICON_BIG}, WPARAM{ICON_SMALL}}) {
         if (::SendMessageW(WindowHandle(), WM_GETICON, size, 0) != handle)

@@ -17,8 +17,7 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The picture, owned by the control; change it in place or assign another.
-    [[nodiscard]] const TPicture& GetPicture() const { return *FPicture; }
-    [[nodiscard]] TPicture& Picture() { return *FPicture; }
+    [[nodiscard]] TPicture& GetPicture() const { return *FPicture; }
     void SetPicture(const TPicture& value);
     /// The surface of the picture itself, for drawing that lasts: an empty picture becomes a bitmap of the
     /// control's size. Raises EInvalidOperation "Can only modify an image if it contains a bitmap" for a

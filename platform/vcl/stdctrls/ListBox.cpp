@@ -84,11 +84,7 @@ TCustomListBox::TCustomListBox(TComponent* AOwner)
 
 TCustomListBox::~TCustomListBox() = default;
 
-const TStrings& TCustomListBox::GetItems() const {
-    return *FItems;
-}
-
-TStrings& TCustomListBox::Items() {
+TStrings& TCustomListBox::GetItems() const {
     return *FItems;
 }
 

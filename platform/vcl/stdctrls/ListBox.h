@@ -17,9 +17,8 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The entries with their objects; owned by the control. They survive the window's being made anew.
-    [[nodiscard]] const TStrings& GetItems() const;
-    [[nodiscard]] TStrings& Items();
-    void SetItems(const TStrings& value) { Items().Assign(&value); }
+    [[nodiscard]] TStrings& GetItems() const;
+    void SetItems(const TStrings& value) { GetItems().Assign(&value); }
     [[nodiscard]] int GetCount() const { return GetItems().GetCount(); }
     /// The selected entry (with `MultiSelect`: the one with the focus), or -1. Setting it raises no event.
     [[nodiscard]] int GetItemIndex() const;
@@ -44,7 +43,7 @@ public:
     [[nodiscard]] int ItemAtPos(TPoint pos) const;
     /// The place of the entry in client pixels.
     [[nodiscard]] TRect ItemRect(int index) const;
-    void Clear() { Items().Clear(); }
+    void Clear() { GetItems().Clear(); }
 
 protected:
     void Dispatch(TMessage& message) override;

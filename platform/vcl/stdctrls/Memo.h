@@ -16,8 +16,7 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The text line by line, as it is broken by line ends (not by wrapping); owned by the control.
-    [[nodiscard]] const TStrings& GetLines() const { return *FLines; }
-    [[nodiscard]] TStrings& Lines() { return *FLines; }
+    [[nodiscard]] TStrings& GetLines() const { return *FLines; }
     void SetLines(const TStrings& value) { FLines->Assign(&value); }
     [[nodiscard]] TScrollStyle GetScrollBars() const { return FScrollBars; }
     void SetScrollBars(TScrollStyle value);

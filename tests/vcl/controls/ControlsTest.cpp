@@ -103,9 +103,6 @@ void TProbeServices::HandleException(std::exception_ptr error) {
 }
 
 void ControlsTest::SetUp() {
-    // The system keeps what it loads for its own cursors.
-    for (TCursor cursor = crSizeAll; cursor <= crArrow; ++cursor)
-        (void)Services.CursorHandle(cursor);
     LedgerTest::SetUp();
     FFormerServices = SetAppServices(&Services);
     FLoop = std::make_unique<KeyOfferingLoop>();

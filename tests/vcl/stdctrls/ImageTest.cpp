@@ -52,7 +52,7 @@ TEST_F(ImageTest, PlacesThePictureByItsRules) {
     image.SetBounds(0, 0, 100, 50);
     for (const Case& c : cases) {
         const TBitmap bitmap(c.PictureWidth, c.PictureHeight);
-        image.Picture().SetBitmap(&bitmap);
+        image.GetPicture().SetBitmap(&bitmap);
         image.SetStretch(c.Stretch);
         image.SetProportional(c.Proportional);
         image.SetCenter(c.Center);
@@ -64,7 +64,7 @@ TEST_F(ImageTest, PlacesThePictureByItsRules) {
 TEST_F(ImageTest, ShowsThePictureAndFollowsItsChanges) {
     TImage* image = MakeImage(40, 30);
     const Filled bitmap(20, 10, clRed);
-    image->Picture().SetBitmap(&bitmap);
+    image->GetPicture().SetBitmap(&bitmap);
     EXPECT_TRUE(SamePixels(Picture(*image), Inside({0, 0, 20, 10}, RGB(255, 0, 0), RGB(255, 255, 255))));
     image->SetStretch(true);
     EXPECT_TRUE(SamePixels(Picture(*image), Inside({0, 0, 40, 30}, RGB(255, 0, 0), 0)));
@@ -78,7 +78,7 @@ TEST_F(ImageTest, LeavesOutTheTransparentColour) {
     Filled bitmap(40, 30, clFuchsia);
     bitmap.GetCanvas().GetBrush().SetColor(clGreen);
     bitmap.GetCanvas().FillRect({5, 5, 15, 15});
-    image->Picture().SetBitmap(&bitmap);
+    image->GetPicture().SetBitmap(&bitmap);
     EXPECT_EQ(Picture(*image).At(0, 0), RGB(255, 0, 255));
     image->SetTransparent(true);
     EXPECT_TRUE(SamePixels(Picture(*image), Inside({5, 5, 15, 15}, RGB(0, 128, 0), RGB(255, 255, 255))));
@@ -89,7 +89,7 @@ TEST_F(ImageTest, IsOpaqueOnlyWhenThePictureCoversIt) {
     TImage* image = MakeImage(40, 30);
     EXPECT_FALSE(image->ControlStyle.Contains(csOpaque));
     const Filled bitmap(40, 30, clRed);
-    image->Picture().SetBitmap(&bitmap);
+    image->GetPicture().SetBitmap(&bitmap);
     EXPECT_TRUE(image->ControlStyle.Contains(csOpaque));
     image->SetWidth(41);
     EXPECT_FALSE(image->ControlStyle.Contains(csOpaque));
@@ -99,20 +99,20 @@ TEST_F(ImageTest, AutoSizeTakesThePicturesSize) {
     TImage* image = MakeImage(40, 30);
     image->SetAutoSize(true);
     const Filled bitmap(23, 17, clRed);
-    image->Picture().SetBitmap(&bitmap);
+    image->GetPicture().SetBitmap(&bitmap);
     EXPECT_EQ(image->GetBoundsRect(), TRect::OfSize(10, 10, 23, 17));
 }
 
 TEST_F(ImageTest, TheCanvasMakesABitmapOfTheControlsSize) {
     TImage* image = MakeImage(12, 8);
     image->GetCanvas().SetPixel(3, 4, clRed);
-    EXPECT_EQ(image->Picture().GetWidth(), 12);
+    EXPECT_EQ(image->GetPicture().GetWidth(), 12);
     EXPECT_EQ(Picture(*image).At(3, 4), RGB(255, 0, 0));
 }
 
 TEST_F(ImageTest, OnlyABitmapCanBeDrawnOn) {
     TImage* image = MakeImage(12, 8);
-    (void)image->Picture().GetIcon();
+    (void)image->GetPicture().GetIcon();
     try {
         (void)image->GetCanvas();
         FAIL() << "drew on an icon";

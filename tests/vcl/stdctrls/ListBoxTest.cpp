@@ -16,7 +16,7 @@ protected:
     }
     void Fill(std::initializer_list<const wchar_t*> texts) {
         for (const wchar_t* text : texts)
-            Box->Items().Add(text);
+            Box->GetItems().Add(text);
     }
     /// What the system's list shows.
     std::vector<std::wstring> Shown() const {
@@ -37,18 +37,18 @@ protected:
 TEST_F(ListBoxTest, TheWindowFollowsEveryChangeOfTheItems) {
     Fill({L"b", L"a", L"c"});
     EXPECT_EQ(Shown(), (Texts{L"b", L"a", L"c"}));
-    Box->Items().Put(1, L"x");
+    Box->GetItems().Put(1, L"x");
     EXPECT_EQ(Shown(), (Texts{L"b", L"x", L"c"}));
-    Box->Items().Delete(0);
+    Box->GetItems().Delete(0);
     EXPECT_EQ(Shown(), (Texts{L"x", L"c"}));
-    Box->Items().Insert(0, L"first");
-    Box->Items().Exchange(0, 2);
+    Box->GetItems().Insert(0, L"first");
+    Box->GetItems().Exchange(0, 2);
     EXPECT_EQ(Shown(), (Texts{L"c", L"x", L"first"}));
-    Box->Items().Move(2, 0);
+    Box->GetItems().Move(2, 0);
     EXPECT_EQ(Shown(), (Texts{L"first", L"c", L"x"}));
     Box->SetSorted(true);
     EXPECT_EQ(Shown(), (Texts{L"c", L"first", L"x"}));
-    Box->Items().Add(L"d");
+    Box->GetItems().Add(L"d");
     EXPECT_EQ(Shown(), (Texts{L"c", L"d", L"first", L"x"}));
     Box->Clear();
     EXPECT_EQ(Shown(), Texts());
@@ -56,7 +56,7 @@ TEST_F(ListBoxTest, TheWindowFollowsEveryChangeOfTheItems) {
 
 TEST_F(ListBoxTest, ItemsSelectionAndPlaceOutliveTheWindow) {
     for (int i = 0; i < 40; ++i)
-        Box->Items().Add(IntToStr(i));
+        Box->GetItems().Add(IntToStr(i));
     Box->SetItemIndex(20);
     Box->SetTopIndex(18);
     Box->SetBorderStyle(bsNone);
@@ -67,8 +67,8 @@ TEST_F(ListBoxTest, ItemsSelectionAndPlaceOutliveTheWindow) {
 
 TEST_F(ListBoxTest, WorksWithoutAWindow) {
     TListBox box(nullptr);
-    box.Items().Add(L"a");
-    box.Items().Add(L"b");
+    box.GetItems().Add(L"a");
+    box.GetItems().Add(L"b");
     box.SetItemIndex(1);
     EXPECT_TRUE(box.GetSelected(1));
     EXPECT_FALSE(box.GetSelected(0));
@@ -119,9 +119,9 @@ TEST_F(ListBoxTest, SeveralCanBeSelected) {
 TEST_F(ListBoxTest, ObjectsStayWithTheirTexts) {
     TObject object;
     Box->SetSorted(true);
-    Box->Items().AddObject(L"b", &object);
-    Box->Items().Add(L"a");
-    EXPECT_EQ(Box->Items().GetObject(1), &object);
+    Box->GetItems().AddObject(L"b", &object);
+    Box->GetItems().Add(L"a");
+    EXPECT_EQ(Box->GetItems().GetObject(1), &object);
 }
 
 }  // namespace

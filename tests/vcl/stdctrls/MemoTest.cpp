@@ -18,10 +18,10 @@ protected:
     /// The same steps must leave the same text with a window and without.
     void ExpectText(const std::function<void(TStrings&)>& steps, const String& expected) {
         TMemo without(nullptr);
-        steps(without.Lines());
+        steps(without.GetLines());
         EXPECT_EQ(without.GetText(), expected) << "without a window";
         Memo->Clear();
-        steps(Memo->Lines());
+        steps(Memo->GetLines());
         EXPECT_EQ(Memo->GetText(), expected) << "with a window";
     }
     TMemo* Memo = nullptr;
@@ -38,9 +38,9 @@ TEST_F(MemoTest, LinesAreAddedInsertedReplacedAndDeleted) {
 
 TEST_F(MemoTest, LinesDoNotCountWrapping) {
     Memo->SetText(L"a very long line that has to be wrapped in so small a window\r\nsecond");
-    EXPECT_EQ(Memo->Lines().GetCount(), 2);
-    EXPECT_EQ(Memo->Lines().Get(1), L"second");
-    EXPECT_THROW((void)Memo->Lines().Get(2), EStringListError);
+    EXPECT_EQ(Memo->GetLines().GetCount(), 2);
+    EXPECT_EQ(Memo->GetLines().Get(1), L"second");
+    EXPECT_THROW((void)Memo->GetLines().Get(2), EStringListError);
 }
 
 TEST_F(MemoTest, EnterMakesALineOrClicksTheDefaultButton) {
