@@ -110,7 +110,7 @@ private:
             const std::unique_ptr<TBitmap> piece =
                 CreateBmp(FrameResourceName(L"MASKWHITE", AllFramePositions[i]));
             ReplaceColor(piece.get(), clWhite, GetColor());
-            image->Picture().SetGraphic(piece.get());
+            image->GetPicture().SetGraphic(piece.get());
             mask->*fields[i] = image;
         }
         mask->Control = AddPanel(2, 0x00D8F0D8);
