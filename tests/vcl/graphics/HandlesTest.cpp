@@ -142,7 +142,7 @@ TEST_F(HandlesTest, ThereIsNoContextOfAWindowThatIsGone) {
         const test::TestWindow window;
         gone = window.Handle();
     }
-    EXPECT_THROW(TWindowDC{gone}, EOutOfResources);
+    EXPECT_THROW(static_cast<void>(TWindowDC(gone)), EOutOfResources);
 }
 
 TEST_F(HandlesTest, PaintingValidatesTheWindow) {
