@@ -3,6 +3,7 @@
 
 PRESET=${PRESET:-mingw}
 BUILD_FLAGS=${BUILD_FLAGS:-}
+# shellcheck disable=SC2034 # for the other parts
 BIN=build/$PRESET/bin
 
 # build TARGET...: compiles the named targets; "all" is one.
