@@ -11,6 +11,22 @@
 // What an image list holds. ImageListDrawing.cpp draws it.
 
 namespace vcl {
+namespace {
+
+/// Copies the area at the left edge and top row into the bitmap of 32 bits, at its left edge: what the system
+/// does too, without a device context for either.
+void CopyPixels(const TConstBitmapBits& from, int left, const TBitmapBits& to, int top, TSize area) {
+    for (int y = 0; y < area.Height; ++y) {
+        if (from.BytesPerPixel == 4) {
+            std::copy_n(from.Pixel(left, y), 4 * area.Width, to.Row(top + y));
+            continue;
+        }
+        for (int x = 0; x < area.Width; ++x)
+            to.SetColor(x, top + y, from.GetColor(left + x, y));
+    }
+}
+
+}  // namespace
 
 std::span<const wchar_t* const> TEnumNames<TDrawingStyle>::Names() {
     static constexpr const wchar_t* names[] = {L"dsFocus", L"dsSelected", L"dsNormal", L"dsTransparent"};
@@ -27,6 +43,7 @@ const TMetaClass& TImageList::StaticClass() {
     using T = TImageList;
     static const TMetaClass meta =
         DefineClass<T>(L"TImageList", TCustomImageList::StaticClass())
+            .Property(L"AllocBy", &T::GetAllocBy, &T::SetAllocBy, 4)
             .Property(L"BkColor", &T::GetBkColor, &T::SetBkColor, clNone)
             .Identifiers(ColorIdentifiers())
             .Property(L"BlendColor", &T::GetBlendColor, &T::SetBlendColor, clNone)
@@ -138,7 +155,7 @@ void TCustomImageList::CheckMask(const TBitmap* mask, const TBitmap& image) cons
 void TCustomImageList::MakeRoom(int count) {
     const int capacity = FImages.GetHeight() / FHeight;
     if (count <= capacity) return;
-    const int rows = std::max({count, 2 * capacity, 4}) * FHeight;
+    const int rows = std::max({count, 2 * capacity, FAllocBy}) * FHeight;
     if (!FMasks.GetEmpty()) FMasks.SetSize(FWidth, rows);
     FImages.SetSize(FWidth, rows);
 }
@@ -155,7 +172,10 @@ int TCustomImageList::Append(const TBitmap& image, const TBitmap* mask) {
 }
 
 void TCustomImageList::Put(int index, const TBitmap& image, int imageLeft, const TBitmap* mask) {
-    FImages.GetCanvas().CopyRect(RectOf(index), image, TRect::OfSize(imageLeft, 0, FWidth, FHeight));
+    if (image.HasByteBits())
+        CopyPixels(image.ReadBits(), imageLeft, FImages.WriteBits(), index * FHeight, {FWidth, FHeight});
+    else
+        FImages.GetCanvas().CopyRect(RectOf(index), image, TRect::OfSize(imageLeft, 0, FWidth, FHeight));
     FMasked[static_cast<std::size_t>(index)] = false;
     if (mask && FKeepMasks) PutMask(index, *mask, imageLeft);
 }

@@ -64,6 +64,9 @@ public:
     void SetHeight(int value) { SetSize(FWidth, value); }
     void SetSize(int width, int height);
     [[nodiscard]] int GetCount() const { return static_cast<int>(FMasked.size()); }
+    /// How many images the list makes room for at least when it grows; 4 at first.
+    [[nodiscard]] int GetAllocBy() const { return FAllocBy; }
+    void SetAllocBy(int value) { FAllocBy = value; }
 
     // --- Images. A bitmap or mask smaller than the list's images raises EInvalidOperation "Invalid image
     // size"; a wider one of adding holds several images side by side. Masks are black where the image shows
@@ -143,6 +146,7 @@ private:
 
     int FWidth = 16;
     int FHeight = 16;
+    int FAllocBy = 4;
     TBitmap FImages;            ///< The images one below the other, 32 bits, black where transparent.
     TBitmap FMasks;             ///< Their masks, white where transparent; empty while no image has one.
     mutable TBitmap FScratch;   ///< Where mixed images are put together.
