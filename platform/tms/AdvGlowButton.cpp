@@ -19,13 +19,12 @@ UINT CaptionFlags(const String& caption) {
     return caption.find(L'\n') == String::npos ? DT_SINGLELINE : 0U;
 }
 
-/// Replaces each pixel in the rectangle by the mean of itself and the one in `other`.
-void FadeHalf(TBitmap& bitmap, const TBitmap& other, const TRect& rect) {
+/// Replaces each pixel by the mean of itself and the one in `other`, a bitmap of the same size.
+void FadeHalf(TBitmap& bitmap, const TBitmap& other) {
     const TBitmapBits bits = bitmap.WriteBits();
     const TConstBitmapBits before = other.ReadBits();
-    const TRect area = rect.Intersect(TRect::OfSize(0, 0, bits.Width, bits.Height));
-    for (int y = area.Top; y < area.Bottom; ++y)
-        for (int x = area.Left; x < area.Right; ++x)
+    for (int y = 0; y < bits.Height; ++y)
+        for (int x = 0; x < bits.Width; ++x)
             bits.SetColor(x, y, BlendColors(bits.GetColor(x, y), before.GetColor(x, y), 128));
 }
 
@@ -193,36 +192,36 @@ TGlowGroup TAdvGlowButton::GetColorGroup() const {
     }
 }
 
-void TAdvGlowButton::DrawPicture(TBitmap& face, const TRect& rect) const {
-    TBitmap before;
-    before.Assign(&face);
-    face.GetCanvas().Draw(rect.Left, rect.Top, FPicture.GetGraphic());
-    if (GetPushState() == pshDisabled) FadeHalf(face, before, rect);
+void TAdvGlowButton::DrawPicture(const TRect& rect) {
+    TCanvas& canvas = GetCanvas();
+    if (GetPushState() != pshDisabled) return canvas.Draw(rect.Left, rect.Top, FPicture.GetGraphic());
+    TBitmap picture(rect.Width(), rect.Height(), pf32bit);
+    picture.GetCanvas().CopyRect(TRect::OfSize(0, 0, rect.Width(), rect.Height()), canvas, rect);
+    TBitmap face;
+    face.Assign(&picture);
+    picture.GetCanvas().Draw(0, 0, FPicture.GetGraphic());
+    FadeHalf(picture, face);
+    canvas.Draw(rect.Left, rect.Top, &picture);
 }
 
 void TAdvGlowButton::Paint() {
-    const TRect client = GetClientRect();
-    TBitmap face(client.Right, client.Bottom, pf32bit);
-    // Round corners blend with what lies behind the button.
-    if (FRounded) face.GetCanvas().CopyRect(client, GetCanvas(), client);
     const bool isHot = GetPushState() == pshHot || GetPushState() == pshDownHot;
-    PaintGlowFace(face, FAppearance.GetColors(GetColorGroup()), FRounded, isHot);
+    PaintGlowFace(FaceBits(), FAppearance.GetColors(GetColorGroup()), FRounded, isHot);
 
-    TCanvas& canvas = face.GetCanvas();
+    TCanvas& canvas = GetCanvas();
     SelectCaptionFont(canvas);
     canvas.GetBrush().SetStyle(bsClear);
     TContent content = MeasureContent(canvas);
     PlaceContent(content);
-    if (!content.Picture.IsEmpty()) DrawPicture(face, content.Picture);
+    if (!content.Picture.IsEmpty()) DrawPicture(content.Picture);
     const String caption = GetCaption();
     if (!content.Text.IsEmpty())
         DrawTextCentered(canvas, content.Text, caption, CaptionFlags(caption) | DT_CENTER | DT_END_ELLIPSIS);
     if (IsFocusShown()) {
-        TRect frame = client;
+        TRect frame = GetClientRect();
         frame.Inflate(-FocusMargin, -FocusMargin);
         canvas.DrawFocusRect(frame);
     }
-    GetCanvas().Draw(0, 0, &face);
 }
 
 }  // namespace tms

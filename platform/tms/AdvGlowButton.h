@@ -74,7 +74,7 @@ private:
     void SelectCaptionFont(TCanvas& canvas) const;
     [[nodiscard]] TContent MeasureContent(TCanvas& canvas) const;
     void PlaceContent(TContent& content) const;
-    void DrawPicture(TBitmap& face, const TRect& rect) const;
+    void DrawPicture(const TRect& rect);
     void ContentChanged();
 
     TGlowButtonAppearance FAppearance;

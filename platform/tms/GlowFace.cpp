@@ -1,9 +1,8 @@
 #include "platform/tms/GlowFace.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-
-#include "platform/vcl/graphics/Bitmap.h"
 
 namespace tms {
 namespace {
@@ -31,22 +30,45 @@ int CornerCoverage(int x, int y, int radius) {
     return inside;
 }
 
-/// Paints the gradients, and the glow over them.
-void PaintInside(const TBitmapBits& bits, const TRect& inside, const TGlowColors& colors, bool glow) {
-    const TColor from = ColorToRGB(colors.Color), to = ColorToRGB(colors.ColorTo);
-    const TColor mirrorFrom = ColorToRGB(colors.ColorMirror), mirrorTo = ColorToRGB(colors.ColorMirrorTo);
-    const int upper = (inside.Height() + 1) / 2;
-    const TSize upperArea{inside.Width(), upper}, lowerArea{inside.Width(), inside.Height() - upper};
-    for (int y = 0; y < inside.Height(); ++y) {
-        for (int x = 0; x < inside.Width(); ++x) {
-            TColor color = y < upper ? GradientColor(colors.Gradient, from, to, {x, y}, upperArea)
-                                     : GradientColor(colors.GradientMirror, mirrorFrom, mirrorTo,
-                                                     {x, y - upper}, lowerArea);
-            const TPoint pixel{inside.Left + x, inside.Top + y};
-            if (glow) color = Mix(color, clWhite, GlowStrength(pixel, {bits.Width, bits.Height}), 255);
-            bits.SetColor(pixel.X, pixel.Y, color);
+/// One half of a face: where it lies, and its gradient.
+struct THalf {
+    TRect Rect;
+    TGDIPGradient Gradient;
+    TColor From;
+    TColor To;
+};
+
+void PaintHalf(const TBitmapBits& bits, const THalf& half) {
+    const TSize area{half.Rect.Width(), half.Rect.Height()};
+    const bool variesInRow = half.Gradient != gdpPlain && half.Gradient != gdpVertical;
+    for (int y = 0; y < area.Height; ++y) {
+        TColor color = GradientColor(half.Gradient, half.From, half.To, {0, y}, area);
+        for (int x = 0; x < area.Width; ++x) {
+            if (variesInRow) color = GradientColor(half.Gradient, half.From, half.To, {x, y}, area);
+            bits.SetColor(half.Rect.Left + x, half.Rect.Top + y, color);
         }
     }
+}
+
+void PaintGlow(const TBitmapBits& bits, const TRect& area) {
+    for (int y = area.Top; y < area.Bottom; ++y) {
+        for (int x = area.Left; x < area.Right; ++x) {
+            const int strength = GlowStrength({x, y}, {bits.Width, bits.Height});
+            if (strength > 0) bits.SetColor(x, y, Mix(bits.GetColor(x, y), clWhite, strength, 255));
+        }
+    }
+}
+
+void PaintInside(const TBitmapBits& bits, const TGlowColors& colors) {
+    const int middle = 1 + (bits.Height - 1) / 2;
+    PaintHalf(bits, {{1, 1, bits.Width - 1, middle},
+                     colors.Gradient,
+                     ColorToRGB(colors.Color),
+                     ColorToRGB(colors.ColorTo)});
+    PaintHalf(bits, {{1, middle, bits.Width - 1, bits.Height - 1},
+                     colors.GradientMirror,
+                     ColorToRGB(colors.ColorMirror),
+                     ColorToRGB(colors.ColorMirrorTo)});
 }
 
 void PaintBorder(const TBitmapBits& bits, TColor border) {
@@ -60,22 +82,39 @@ void PaintBorder(const TBitmapBits& bits, TColor border) {
     }
 }
 
-/// Draws the corners of a finished rectangular face round, over the former background.
-void RoundCorners(const TBitmapBits& bits, const TConstBitmapBits& background, TColor border) {
-    const int radius = std::min({GlowCornerRadius, bits.Width / 2, bits.Height / 2});
-    for (int y = 0; y < radius; ++y) {
-        for (int x = 0; x < radius; ++x) {
-            const int outer = CornerCoverage(x, y, radius);
-            const int inner = x > 0 && y > 0 ? CornerCoverage(x - 1, y - 1, radius - 1) : 0;
-            for (const int px : {x, bits.Width - 1 - x}) {
-                for (const int py : {y, bits.Height - 1 - y}) {
-                    const TColor edge = Mix(border, bits.GetColor(px, py), inner, 16);
-                    bits.SetColor(px, py, Mix(background.GetColor(px, py), edge, outer, 16));
-                }
-            }
-        }
+/// The pixels of the four corners before the face was painted over them; rounds the face off afterwards.
+class TCorners {
+public:
+    explicit TCorners(const TBitmapBits& bits)
+        : FBits(bits), FRadius(std::min({GlowCornerRadius, bits.Width / 2, bits.Height / 2})) {
+        ForEach(
+            [this](int, int, TPoint pixel, TColor& before) { before = FBits.GetColor(pixel.X, pixel.Y); });
     }
-}
+    void Round(TColor border) {
+        ForEach([&](int x, int y, TPoint pixel, TColor& before) {
+            const int outer = CornerCoverage(x, y, FRadius);
+            const int inner = x > 0 && y > 0 ? CornerCoverage(x - 1, y - 1, FRadius - 1) : 0;
+            const TColor edge = Mix(border, FBits.GetColor(pixel.X, pixel.Y), inner, 16);
+            FBits.SetColor(pixel.X, pixel.Y, Mix(before, edge, outer, 16));
+        });
+    }
+
+private:
+    /// Calls `visit` with the distances from the corner, the pixel and its place in the store.
+    template <class Visit>
+    void ForEach(Visit visit) {
+        TColor* before = FBefore.data();
+        for (int y = 0; y < FRadius; ++y)
+            for (int x = 0; x < FRadius; ++x)
+                for (const int px : {x, FBits.Width - 1 - x})
+                    for (const int py : {y, FBits.Height - 1 - y})
+                        visit(x, y, TPoint{px, py}, *before++);
+    }
+
+    TBitmapBits FBits;
+    int FRadius;
+    std::array<TColor, 4 * GlowCornerRadius * GlowCornerRadius> FBefore{};
+};
 
 }  // namespace
 
@@ -100,15 +139,14 @@ int GlowStrength(TPoint pixel, TSize face) {
     return nearness <= 0 ? 0 : static_cast<int>(std::lround(MaxGlow * nearness * nearness));
 }
 
-void PaintGlowFace(TBitmap& bitmap, const TGlowColors& colors, bool rounded, bool glow) {
-    if (bitmap.GetEmpty()) return;
-    TBitmap background;
-    if (rounded) background.Assign(&bitmap);
-    const TBitmapBits bits = bitmap.WriteBits();
+void PaintGlowFace(const TBitmapBits& bits, const TGlowColors& colors, bool rounded, bool glow) {
+    if (bits.IsEmpty()) return;
+    TCorners corners(bits);
     const TColor border = ColorToRGB(colors.Border);
-    PaintInside(bits, {1, 1, bits.Width - 1, bits.Height - 1}, colors, glow);
+    PaintInside(bits, colors);
+    if (glow) PaintGlow(bits, {1, 1, bits.Width - 1, bits.Height - 1});
     PaintBorder(bits, border);
-    if (rounded) RoundCorners(bits, background.ReadBits(), border);
+    if (rounded) corners.Round(border);
 }
 
 }  // namespace tms

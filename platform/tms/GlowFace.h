@@ -2,10 +2,7 @@
 
 #include "platform/tms/GlowButtonAppearance.h"
 #include "platform/vcl/core/Geometry.h"
-
-namespace vcl {
-class TBitmap;
-}
+#include "platform/vcl/graphics/BitmapBits.h"
 
 namespace tms {
 
@@ -21,9 +18,9 @@ namespace tms {
 /// The radius of round corners in pixels.
 inline constexpr int GlowCornerRadius = 4;
 
-/// Paints the face of a glow button over all of the bitmap, which has 32 bits: a border of one pixel, inside
+/// Paints the face of a glow button over all of the pixels, which have 32 bits: a border of one pixel, inside
 /// it the gradient over the upper half (the larger one when they differ) and the mirror gradient over the
-/// lower. `glow` lightens it from below. Round corners blend with what the bitmap held before.
-void PaintGlowFace(TBitmap& bitmap, const TGlowColors& colors, bool rounded, bool glow);
+/// lower. `glow` lightens it from below. Round corners blend with what was there before.
+void PaintGlowFace(const TBitmapBits& bits, const TGlowColors& colors, bool rounded, bool glow);
 
 }  // namespace tms

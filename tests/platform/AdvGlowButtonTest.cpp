@@ -25,7 +25,8 @@ protected:
         TBitmap bitmap(Button->GetWidth(), Button->GetHeight(), pf32bit);
         bitmap.GetCanvas().GetBrush().SetColor(Form().GetColor());
         bitmap.GetCanvas().FillRect({0, 0, Button->GetWidth(), Button->GetHeight()});
-        PaintGlowFace(bitmap, Button->GetAppearance().GetColors(group), Button->GetRounded(), glow);
+        PaintGlowFace(bitmap.WriteBits(), Button->GetAppearance().GetColors(group), Button->GetRounded(),
+                      glow);
         return test::ReadBitmap(bitmap.GetHandle());
     }
 

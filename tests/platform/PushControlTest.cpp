@@ -416,19 +416,19 @@ TEST_F(PushControlLife, AHundredNewWindowsLeaveNothingBehind) {
     EXPECT_EQ(Clicks, 1);
 }
 
-TEST_F(PushControlLife, TenThousandCyclesLeaveNothingBehind) {
+TEST_F(PushControlLife, AThousandPressesLeaveNothingBehind) {
     const auto send = [&](UINT message, WPARAM keys, int x) {
         SendMessageW(Window(), message, keys, MAKELPARAM(x, 10));
     };
     Input.MoveTo(Window(), 20, 10);
     const test::ResourceSnapshot before = test::ResourceSnapshot::Take();
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < 1000; ++i) {
         send(WM_LBUTTONDOWN, MK_LBUTTON, 20);
         send(WM_MOUSEMOVE, MK_LBUTTON, 300);
         send(WM_MOUSEMOVE, MK_LBUTTON, 20);
         send(WM_LBUTTONUP, 0, 20);
     }
-    EXPECT_EQ(Clicks, 10000);
+    EXPECT_EQ(Clicks, 1000);
     EXPECT_EQ(before.ChangeSince(), "");
 }
 

@@ -54,6 +54,7 @@ void TFaceCache::MakeBitmap(TSize size) {
     FBitmap.Reset(CheckHandle(::CreateDIBSection(nullptr, &info, DIB_RGB_COLORS, &bits, nullptr, 0)));
     FDC = CreateMemoryDC();
     ::SelectObject(FDC.Get(), FBitmap.Get());
+    FBits = static_cast<std::uint8_t*>(bits);
     FSize = size;
 }
 
@@ -64,7 +65,7 @@ void TFaceCache::Paint(int look, const TPainter& paint) {
         if (taken == place) taken = NoPlace;
 
     const unsigned generation = FGeneration;
-    const int top = place * FSize.Height;
+    const int top = FPaintTop = place * FSize.Height;
     {
         const TFlagScope painting(FPainting);
         const TSaveDC state(FDC.Get());
@@ -73,6 +74,14 @@ void TFaceCache::Paint(int look, const TPainter& paint) {
         paint(FDC.Get());
     }
     if (generation == FGeneration) FPlaceOfLook[look] = static_cast<signed char>(place);
+}
+
+TBitmapBits TFaceCache::Bits() const {
+    if (!FPainting) return {};
+    // Drawing that the system still holds back belongs below what is written now.
+    ::GdiFlush();
+    const std::ptrdiff_t stride = 4 * std::ptrdiff_t{FSize.Width};
+    return {FBits + FPaintTop * stride, stride, FSize.Width, FSize.Height, 4};
 }
 
 void TFaceCache::Show(HDC dc, TSize size, int look, const TPainter& paint) {

@@ -3,9 +3,11 @@
 #include "platform/vcl/core/WindowsApi.h"
 
 #include <array>
+#include <cstdint>
 #include <functional>
 
 #include "platform/vcl/core/Geometry.h"
+#include "platform/vcl/graphics/BitmapBits.h"
 #include "platform/vcl/graphics/Handles.h"
 
 namespace vcl {
@@ -37,6 +39,8 @@ public:
     void Release();
     /// True while a picture is being painted.
     [[nodiscard]] bool IsPainting() const { return FPainting; }
+    /// The memory of the picture that is being painted, of 32 bits per pixel; empty at other times.
+    [[nodiscard]] TBitmapBits Bits() const;
 
 private:
     static constexpr signed char NoPlace = -1;
@@ -46,7 +50,9 @@ private:
 
     TBitmapHandle FBitmap;
     TMemoryDC FDC;  ///< Holds the bitmap; declared after it, and so deleted before it.
+    std::uint8_t* FBits = nullptr;
     TSize FSize;
+    int FPaintTop = 0;
     int FPlaces = 0;
     int FNextPlace = 0;
     std::array<signed char, Looks> FPlaceOfLook{};

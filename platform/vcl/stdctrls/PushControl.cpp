@@ -4,7 +4,6 @@
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/Brush.h"
-#include "platform/vcl/graphics/DeviceContexts.h"
 
 namespace vcl {
 namespace {
@@ -44,8 +43,22 @@ void TPushControl::Loaded() {
     UpdateState();
 }
 
+void TPushControl::CreateParams(TCreateParams& params) {
+    TCustomControl::CreateParams(params);
+    // Pictures are copied at every change of state, and fetching a device context for it would cost more than
+    // the copy.
+    params.WindowClass.style |= CS_OWNDC;
+}
+
+void TPushControl::CreateWnd() {
+    TCustomControl::CreateWnd();
+    FWindowDC.reset();
+    FWindowDC.emplace(WindowHandle());
+}
+
 void TPushControl::DestroyWnd() {
     FFaces.Release();
+    FWindowDC.reset();
     FHasFocus = FMousePress = FSpacePress = false;
     FState = StateNow();
     TCustomControl::DestroyWnd();
@@ -131,15 +144,20 @@ void TPushControl::PaintWindow(HDC dc) {
     });
 }
 
-void TPushControl::ShowFace() {
-    if (!HandleAllocated() || !GetShowing()) return;
-    const TWindowDC dc(WindowHandle());
-    PaintWindow(dc.Get());
+void TPushControl::WmPaint(TMessage& message) {
+    const TRect client = GetClientRect();
+    const bool isAllFace =
+        client.Width() == GetWidth() && client.Height() == GetHeight() && GetControlCount() == 0;
+    if (message.WParam != 0 || !FWindowDC || !isAllFace || GetDoubleBuffered())
+        return TCustomControl::Dispatch(message);
+    // A whole face covers everything there is to paint: neither the area that needs it matters nor a frame,
+    // and asking the system for them would take most of the time.
+    ::ValidateRect(WindowHandle(), nullptr);
+    PaintWindow(FWindowDC->Get());
 }
 
-void TPushControl::Invalidate() {
-    FFaces.Clear();
-    TCustomControl::Invalidate();
+void TPushControl::ShowFace() {
+    if (FWindowDC && HandleAllocated() && GetShowing()) PaintWindow(FWindowDC->Get());
 }
 
 void TPushControl::Repaint() {
@@ -299,6 +317,8 @@ void TPushControl::Dispatch(TMessage& message) {
         case WM_KILLFOCUS:
             if (!FocusChanged(message.Msg == WM_SETFOCUS)) return;
             break;
+        case WM_PAINT:
+            return WmPaint(message);
         case WM_ERASEBKGND:
             message.Result = 1;
             return;
@@ -306,6 +326,9 @@ void TPushControl::Dispatch(TMessage& message) {
             TCustomControl::Dispatch(message);
             message.Result |= DLGC_BUTTON | (FDefault ? DLGC_DEFPUSHBUTTON : DLGC_UNDEFPUSHBUTTON);
             return;
+        case CM_INVALIDATE:
+            FFaces.Clear();
+            break;
         case CM_ENABLEDCHANGED:
             return CmEnabledChanged(message);
         case CM_CHILDKEY:

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/vcl/controls/CustomControl.h"
+#include "platform/vcl/graphics/DeviceContexts.h"
 #include "platform/vcl/stdctrls/FaceCache.h"
 
 namespace vcl {
@@ -56,12 +59,13 @@ public:
     /// Does all that a click of the user does.
     void Click() override;
 
-    void Invalidate() override;
     void Repaint() override;
 
 protected:
     void Dispatch(TMessage& message) override;
     void PaintWindow(HDC dc) override;
+    void CreateParams(TCreateParams& params) override;
+    void CreateWnd() override;
     void DestroyWnd() override;
     void Loaded() override;
     void MouseEnter() override;
@@ -88,6 +92,9 @@ protected:
     /// when the control has `ParentBackground`.
     virtual void EraseFace(HDC dc);
 
+    /// The pixels under the canvas while `Paint` draws, for descendants that reckon theirs; empty at other
+    /// times.
+    [[nodiscard]] TBitmapBits FaceBits() const { return FFaces.Bits(); }
     /// True when `Paint` has to show the focus.
     [[nodiscard]] bool IsFocusShown() const { return FHasFocus && ShowsFocus(); }
     /// Brings state and screen in line with what decides about them; false when a handler freed the control.
@@ -101,6 +108,7 @@ private:
     void ShowFace();
     [[nodiscard]] bool TakesDialogKey(WORD key);
     // Handlers of the message map; those that tell say whether the control still lives.
+    void WmPaint(TMessage& message);
     bool FocusChanged(bool focused);
     bool EndPress();
     void WmLButtonDown(TMessage& message);
@@ -112,6 +120,7 @@ private:
     void CmDialogChar(TMessage& message);
 
     TFaceCache FFaces;
+    std::optional<TWindowDC> FWindowDC;  ///< The window's own, kept as long as the window.
     TModalResult FModalResult = mrNone;
     TPushState FState = pshNormal;
     bool FDefault = false;
