@@ -1,5 +1,8 @@
 #include "buttons/UnitQV7SkinButton.h"
 
+#include <optional>
+#include <utility>
+
 #include "buttons/SkinButtonPieces.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "skin/UnitQV7SkinColors.h"
@@ -10,6 +13,20 @@ namespace {
 
 constexpr int DefaultWidth = 100;
 constexpr int DefaultHeight = 25;
+
+/// Gives a variable a value for the length of a scope.
+template <class T>
+class TScopedValue {
+public:
+    TScopedValue(T& variable, T value) : FVariable(variable), FFormer(std::exchange(variable, value)) {}
+    TScopedValue(const TScopedValue&) = delete;
+    TScopedValue& operator=(const TScopedValue&) = delete;
+    ~TScopedValue() { FVariable = FFormer; }
+
+private:
+    T& FVariable;
+    T FFormer;
+};
 
 }  // namespace
 
@@ -31,6 +48,7 @@ TCustomQV7SkinButton::TCustomQV7SkinButton(TComponent* AOwner)
     GetFontDisabled().SetStyle(GetQV7SkinStyleButtonCaptionDisabled());
     SetDrawFocusedRect(true);
     SetDrawHoveredIfFocused(false);
+    FImages->SetAllocBy(ButtonExStateCount);
 }
 
 TCustomQV7SkinButton::~TCustomQV7SkinButton() = default;
@@ -50,7 +68,8 @@ bool TCustomQV7SkinButton::HasImages() const {
 }
 
 void TCustomQV7SkinButton::BuildImage(TButtonExState State) {
-    TBitmap bitmap(FImages->GetWidth(), FImages->GetHeight());
+    std::optional<TBitmap> own;
+    TBitmap& bitmap = FSheet ? *FSheet : own.emplace(FImages->GetWidth(), FImages->GetHeight());
     BuildImage(State, bitmap);
     FImages->Add(&bitmap, nullptr);
 }
@@ -61,23 +80,32 @@ void TCustomQV7SkinButton::BuildImage(TButtonExState State, TBitmap& Bitmap) {
     ComposeNinePartFrame(Bitmap, FPieces->OfState(look.Frame), look.Interior);
 }
 
+void TCustomQV7SkinButton::BuildAll() {
+    // Making a bitmap costs many times what drawing a picture on it does.
+    TBitmap sheet(FImages->GetWidth(), FImages->GetHeight());
+    const TScopedValue drawing(FSheet, &sheet);
+    for (const TButtonExState state :
+         {bexNormal, bexDisabled, bexPressed, bexHovered, bexDown, bexDownHovered})
+        BuildImage(state);
+    RebuildRegion();
+}
+
 void TCustomQV7SkinButton::RebuildImages(bool Force) {
     if (!Force && HasImages()) return;
     FImages->Clear();
     FPaintFromImageList = GetWidth() > 0 && GetHeight() > 0;
     if (FPaintFromImageList) {
         FImages->SetSize(GetWidth(), GetHeight());
-        for (const TButtonExState state :
-             {bexNormal, bexDisabled, bexPressed, bexHovered, bexDown, bexDownHovered})
-            BuildImage(state);
-        RebuildRegion();
+        BuildAll();
     }
     Refresh();
 }
 
 void TCustomQV7SkinButton::RebuildRegion() {
-    TBitmap outline;
-    if (!HandleAllocated() || !FImages->GetBitmap(0, outline)) return;
+    if (!HandleAllocated() || FImages->GetCount() == 0) return;
+    std::optional<TBitmap> own;
+    TBitmap& outline = FSheet ? *FSheet : own.emplace();
+    FImages->GetBitmap(0, outline);
     TRegionHandle region = BitmapToRegion(&outline, false);
     // The window owns the region from here on.
     if (::SetWindowRgn(WindowHandle(), region.Get(), TRUE)) static_cast<void>(region.Release());

@@ -33,6 +33,7 @@ protected:
     /// Makes the picture of a state and appends it to the image list.
     virtual void BuildImage(TButtonExState State);
     /// Draws the picture of a state: the state's interior colour inside the frame "SKINBUTTON" of the state.
+    /// The bitmap has the size of the picture and any contents.
     virtual void BuildImage(TButtonExState State, TBitmap& Bitmap);
     /// Makes all pictures anew, and with them the window's outline; without `Force` only when there are none
     /// of the present size.
@@ -50,11 +51,14 @@ protected:
 
 private:
     [[nodiscard]] bool HasImages() const;
+    void BuildAll();
     void ApplySkinFonts();
 
     std::unique_ptr<TImageList> FImages;
     bool FUseSkinFonts = true;
     std::shared_ptr<const TSkinButtonPieces> FPieces;
+    TBitmap* FSheet =
+        nullptr;  ///< While pictures are being made: what they are drawn on, one after the other.
 };
 
 /// The glow button in the dark colours of the skin. Beside that it has the properties of the skin button that
