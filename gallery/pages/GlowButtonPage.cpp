@@ -61,7 +61,7 @@ private:
         const TQV7SkinButton button(nullptr);
         const auto kind = static_cast<TGlowGroup>(group);
         const TGlowColors& colors = button.GetAppearance().GetColors(kind);
-        PaintGlowFace(face, colors, button.GetRounded(), kind == glowHot);
+        PaintGlowFace(face.WriteBits(), colors, button.GetRounded(), kind == glowHot);
         TCanvas& canvas = face.GetCanvas();
         canvas.SetFont(button.GetFont());
         if (colors.Text != clDefault) canvas.GetFont().SetColor(colors.Text);
