@@ -100,7 +100,15 @@ void TScreen::RemoveForm(TCustomForm* form) {
     if (FFocusedForm == form) FFocusedForm = nullptr;
     if (FActiveForm != form) return;
     FActiveForm = nullptr;
-    OnActiveFormChange(this);
+    Tell(OnActiveFormChange);
+}
+
+void TScreen::Tell(const TNotifyEvent& event) {
+    try {
+        event(this);
+    } catch (...) {
+        AppServices().HandleException(std::current_exception());
+    }
 }
 
 void TScreen::FocusMoved(TCustomForm* form, TWinControl* control) {
@@ -108,14 +116,14 @@ void TScreen::FocusMoved(TCustomForm* form, TWinControl* control) {
     const bool otherControl = std::exchange(FActiveControl, control) != control;
     std::erase(FForms, form);
     FForms.insert(FForms.begin(), form);
-    if (otherControl) OnActiveControlChange(this);
-    if (otherForm) OnActiveFormChange(this);
+    if (otherControl) Tell(OnActiveControlChange);
+    if (otherForm) Tell(OnActiveFormChange);
 }
 
 void TScreen::FocusLost(const TWinControl* control) {
     if (!FActiveControl || !control->ContainsControl(FActiveControl)) return;
     FActiveControl = nullptr;
-    OnActiveControlChange(this);
+    Tell(OnActiveControlChange);
 }
 
 // --- cursors

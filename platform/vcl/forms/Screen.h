@@ -69,6 +69,8 @@ private:
     void FocusMoved(TCustomForm* form, TWinControl* control);
     /// The control, or a control on it, is gone or can't have the focus any more.
     void FocusLost(const TWinControl* control);
+    /// Raises an event from places that must not fail, such as destructors.
+    void Tell(const TNotifyEvent& event);
     void ApplyCursor() const;
 
     std::map<TCursor, TCursorHandle> FCursors;
