@@ -41,10 +41,13 @@ function(test_support_library)
   target_precompile_headers(test_support REUSE_FROM test_pch)
 endfunction()
 
-# One test program. With ctest it is one test; ./run test splits it by suite.
+# One test program, linked with what the folder is about. With ctest it is one test; ./run test splits it by suite.
 function(house_tests name)
-  house_executable(${name} PCH test_pch USES QV7Skin velmora tms flatstyle vcl test_support GTest::gtest
-    OPTIONS ${TEST_OPTIONS} ${ARGN})
+  set(uses test_support vcl)
+  if(NOT name STREQUAL vcl_tests)
+    list(PREPEND uses QV7Skin velmora tms flatstyle)
+  endif()
+  house_executable(${name} PCH test_pch USES ${uses} GTest::gtest OPTIONS ${TEST_OPTIONS} ${ARGN})
   if(TARGET ${name} AND NOT QV7_COMPILE_ONLY)
     # Resources that tests read back stand beside them.
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "FOLDERS")

@@ -1,32 +1,33 @@
 # shellcheck shell=bash
 # The commands of ./run. A command whose program this tree does not have is not offered.
 
-COMMANDS="gallery test bench shots designer dfm soak lint artwork build help"
+is_command() { command_lines | grep -q "^$1[ |]"; }
 
-is_command() {
-    local command
-    for command in $COMMANDS; do
-        [ "$command" != "$1" ] || return 0
-    done
-    return 1
+# Name, what may follow it, what it does.
+command_lines() {
+    cat <<'TEXT'
+gallery||shows every control; without a display it leaves pictures in build/shots
+test|[filter]|runs the tests, or those whose name contains the filter (* and ? as wildcards)
+bench||measures what things cost; prints a table and writes build/bench.json
+shots|[folder]|draws every page of the gallery to a PNG in the folder (build/shots)
+TEXT
+    [ ! -d designer ] || echo "designer||opens the form designer"
+    [ ! -d tools/dfm ] || echo "dfm|...|converts and checks form files"
+    cat <<'TEXT'
+soak|[filter]|runs the tests that take long
+lint|[check]|checks the house rules
+artwork|[--check]|draws the skin's bitmaps anew, or only compares them
+build|[target]|compiles everything, or one target
+help||shows this
+TEXT
 }
 
 command_help() {
-    cat <<TEXT
-./run gallery         shows every control; without a display it leaves pictures in build/shots
-./run test [filter]   runs the tests, or those whose name contains the filter (* and ? as wildcards)
-./run bench           measures what things cost; prints a table and writes build/bench.json
-./run shots [folder]  draws every page of the gallery to a PNG in the folder (build/shots)
-./run designer        opens the form designer
-./run dfm ...         converts and checks form files
-./run soak [filter]   runs the tests that take long
-./run lint [check]    checks the house rules
-./run artwork         draws the skin's bitmaps anew; with --check only compares them
-./run build [target]  compiles everything, or one target
-./run help            shows this
-
-PRESET=mingw-static (or mingw-ubsan, clang) in front picks another build than mingw.
-TEXT
+    local name arguments meaning
+    while IFS='|' read -r name arguments meaning; do
+        printf './run %-18s %s\n' "$name $arguments" "$meaning"
+    done < <(command_lines)
+    printf '\n%s\n' "PRESET=mingw-static (or mingw-ubsan, clang) in front picks another build than mingw."
 }
 
 command_build() {
@@ -66,7 +67,10 @@ draw_pages() {
     rm -rf "$folder"
     mkdir -p "$folder"
     say "Drawing every page of the gallery"
-    wine_run gallery --shots "$folder" || fail "The gallery ended with code $?"
+    wine_run gallery --shots "$folder" >build/gallery.log || {
+        cat build/gallery.log >&2
+        fail "The gallery could not draw its pages."
+    }
     name_pictures "$folder"
 }
 
