@@ -24,7 +24,6 @@ String CellCaption(int index) {
 }
 
 // --- the start of a process
-// ---------------------------------------------------------------------------------------
 
 template <class Button>
 void ShowFormOf() {
@@ -72,7 +71,6 @@ void MeasureStart(bench::Runner& runner) {
 }
 
 // --- repainting
-// ---------------------------------------------------------------------------------------------------
 
 /// A shown form with a button of ours beside one of the system.
 template <class Button>

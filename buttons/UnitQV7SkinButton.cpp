@@ -60,7 +60,6 @@ void TCustomQV7SkinButton::SetUseSkinFonts(bool Value) {
 }
 
 // --- pictures
-// -------------------------------------------------------------------------------------------------
 
 bool TCustomQV7SkinButton::HasImages() const {
     return FImages->GetCount() > 0 && FImages->GetWidth() == GetWidth() &&
@@ -130,7 +129,6 @@ void TCustomQV7SkinButton::CreateWnd() {
 }
 
 // --- painting
-// -------------------------------------------------------------------------------------------------
 
 void TCustomQV7SkinButton::ApplySkinFonts() {
     for (TFont* font : {&GetFont(), &GetFontHovered()}) {

@@ -103,7 +103,6 @@ void TAdvGlowButton::Dispatch(TMessage& message) {
 }
 
 // --- content
-// --------------------------------------------------------------------------------------------------
 
 void TAdvGlowButton::SelectCaptionFont(TCanvas& canvas) const {
     TFont& font = canvas.GetFont();
@@ -174,7 +173,6 @@ void TAdvGlowButton::PlaceContent(TContent& content) const {
 }
 
 // --- painting
-// -------------------------------------------------------------------------------------------------
 
 TGlowGroup TAdvGlowButton::GetColorGroup() const {
     switch (GetPushState()) {

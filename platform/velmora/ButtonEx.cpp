@@ -68,7 +68,6 @@ void TCustomButtonEx::Notification(TComponent* component, TOperation operation) 
 }
 
 // --- painting
-// -------------------------------------------------------------------------------------------------
 
 void TCustomButtonEx::Paint() {
     DrawBackground();

@@ -92,7 +92,6 @@ TEST_F(SkinButtonFace, TheInteriorIsBlackGreyOrBlueByState) {
 }
 
 // --- the window's outline
-// ---------------------------------------------------------------------------------------
 
 /// True when the region holds exactly the pixels of the picture that are not magenta.
 testing::AssertionResult IsOutlineOf(HWND window, const Pixels& picture) {
@@ -132,7 +131,6 @@ TEST_F(SkinButtonFace, TheCornersBelongToTheForm) {
 }
 
 // --- when pictures are made
-// -------------------------------------------------------------------------------------
 
 TEST_F(SkinButtonFace, SixPicturesAreMadeInTheOrderOfTheStates) {
     Button->Built.clear();

@@ -32,7 +32,6 @@ protected:
 };
 
 // --- a new button
-// -----------------------------------------------------------------------------------------------
 
 TEST_F(SkinButton, BeginsWithTheStatedValues) {
     const test::ProbeSkinButton fresh(nullptr);
@@ -51,7 +50,6 @@ TEST_F(SkinButton, BeginsWithTheStatedValues) {
 }
 
 // --- captions and fonts
-// -----------------------------------------------------------------------------------------
 
 TEST_F(SkinButton, TheCaptionIsWhiteAndBoldInTheMiddle) {
     Button->SetCaption(L"Caption");
@@ -117,7 +115,6 @@ TEST_F(SkinButton, ANewSizeOfTheFontReachesAllThree) {
 }
 
 // --- focus frame
-// ------------------------------------------------------------------------------------------------
 
 TEST_F(SkinButton, TheFocusFrameIsDottedWhiteInsideItsMargins) {
     Button->SetFocus();
@@ -184,7 +181,6 @@ TEST_F(SkinButton, TheFocusCanLookLikeTheMouse) {
 }
 
 // --- behaviour
-// --------------------------------------------------------------------------------------------------
 
 TEST_F(SkinButton, TellsEveryChangeOfItsState) {
     std::vector<TButtonExState> states;

@@ -16,7 +16,6 @@ class PushControlPainting : public test::PushControlTest {};
 class PushControlLife : public test::PushControlTest {};
 
 // --- mouse
-// ----------------------------------------------------------------------------------------------------
 
 TEST_F(PushControlMouse, IsHotWhileTheMouseIsOnIt) {
     Input.MoveTo(Window(), 20, 10);
@@ -140,7 +139,6 @@ TEST_F(PushControlMouse, ADesignerClicksWithoutPressing) {
 }
 
 // --- switching over
-// -------------------------------------------------------------------------------------------
 
 TEST_F(PushControlMouse, ClicksSwitchATogglingControlOver) {
     Control->IsToggle = true;
@@ -172,7 +170,6 @@ TEST_F(PushControlMouse, ClicksLeaveAPushButtonAsItIs) {
 }
 
 // --- keyboard
-// -------------------------------------------------------------------------------------------------
 
 TEST_F(PushControlKeys, TheSpaceBarPressesAndItsReleaseClicks) {
     Control->SetFocus();
@@ -281,7 +278,6 @@ TEST_F(PushControlKeys, AClickClosesAModalForm) {
 }
 
 // --- painting
-// -------------------------------------------------------------------------------------------------
 
 TEST_F(PushControlPainting, AStateIsPaintedOnceUntilTheControlChanges) {
     Input.MoveTo(Window(), 20, 10);
@@ -366,7 +362,6 @@ TEST_F(PushControlPainting, AnEmptyOnePaintsNothing) {
 }
 
 // --- life
-// -----------------------------------------------------------------------------------------------------
 
 TEST_F(PushControlLife, SurvivesBeingFreedInItsOwnClick) {
     Control->OnClick = [&](TObject*) { delete std::exchange(Control, nullptr); };

@@ -44,7 +44,6 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     // --- the program
-    // --------------------------------------------------------------------------------------------
     /// Makes a form that the application owns, stores it in `reference` before `OnCreate` is raised, and
     /// returns it. The first one becomes the main form.
     template <std::derived_from<TCustomForm> Form>
@@ -84,7 +83,6 @@ public:
     void BringToFront();
 
     // --- message loop
-    // ---------------------------------------------------------------------------------------------
     /// Handles all messages in the queue and returns without waiting; false when there was none.
     bool ProcessMessages();
     /// Handles one message, or runs the idle work and waits for the next.
@@ -96,7 +94,6 @@ public:
     bool DoIdle();
 
     // --- errors
-    // -----------------------------------------------------------------------------------------------------
     /// Takes the error that is being handled: raises `OnException`, or shows it when there is no handler.
     /// EAbort is silent. Called from message handlers' catch blocks.
     void HandleException(TObject* sender);
@@ -108,7 +105,6 @@ public:
     int MessageBox(const String& text, const String& caption, unsigned flags = MB_OK);
 
     // --- state
-    // ------------------------------------------------------------------------------------------------------
     /// True while one of the program's windows is the active one.
     [[nodiscard]] bool GetActive() const { return FActive; }
     /// Brackets modal loops of any kind: `OnModalBegin` and `OnModalEnd` are raised by the outermost pair.
@@ -117,7 +113,6 @@ public:
     [[nodiscard]] int GetModalLevel() const { return FModalLevel; }
 
     // --- hints
-    // --------------------------------------------------------------------------------------------------------
     /// The long text of the control under the pointer.
     [[nodiscard]] const String& GetHint() const { return FHint; }
     /// Raises `OnHint` on change.

@@ -32,7 +32,6 @@ public:
     void EnsureCreated();
 
     // --- showing and closing (FormLife.cpp)
-    // -------------------------------------------------------------------
     /// Makes the form visible and brings it to the front.
     void Show();
     /// Shows the form, disables all other windows of the thread and handles messages until `ModalResult` is
@@ -56,7 +55,6 @@ public:
     [[nodiscard]] TModalResult GetModalResult() const override { return FModalResult; }
 
     // --- frame (FormFrame.cpp)
-    // ------------------------------------------------------------------------------------
     [[nodiscard]] TFormBorderStyle GetBorderStyle() const { return FBorderStyle; }
     void SetBorderStyle(TFormBorderStyle value);
     [[nodiscard]] TBorderIcons GetBorderIcons() const { return FBorderIcons; }
@@ -90,7 +88,6 @@ public:
     [[nodiscard]] TCanvas& GetCanvas() const;
 
     // --- focus (FormFocus.cpp)
-    // --------------------------------------------------------------------------------------
     [[nodiscard]] bool GetActive() const override { return FActive; }
     [[nodiscard]] TWinControl* GetActiveControl() const override { return FActiveControl; }
     /// Raises EInvalidOperation "Cannot focus a disabled or invisible window" for a control that can't have
@@ -103,7 +100,6 @@ public:
     [[nodiscard]] bool CanFocus() const override;
 
     // --- keys (FormKeys.cpp)
-    // ------------------------------------------------------------------------------------------
     [[nodiscard]] bool GetKeyPreview() const override { return FKeyPreview; }
     void SetKeyPreview(bool value) { FKeyPreview = value; }
     bool PreviewKey(TMessage& message) override;

@@ -65,7 +65,6 @@ void TPushControl::DestroyWnd() {
 }
 
 // --- state
-// ----------------------------------------------------------------------------------------------------
 
 TPushState TPushControl::StateNow() const {
     if (!GetEnabled()) return pshDisabled;
@@ -114,7 +113,6 @@ void TPushControl::Click() {
 }
 
 // --- painting
-// -------------------------------------------------------------------------------------------------
 
 int TPushControl::LookNow() const {
     return static_cast<int>(FState) * 2 + (IsFocusShown() ? 1 : 0);
@@ -166,7 +164,6 @@ void TPushControl::Repaint() {
 }
 
 // --- mouse
-// ----------------------------------------------------------------------------------------------------
 
 void TPushControl::WmLButtonDown(TMessage& message) {
     if (!IsInState(csDesigning)) {
@@ -230,7 +227,6 @@ void TPushControl::CmEnabledChanged(TMessage& message) {
 }
 
 // --- keyboard
-// -------------------------------------------------------------------------------------------------
 
 bool TPushControl::FocusChanged(bool focused) {
     FHasFocus = focused;
@@ -296,7 +292,6 @@ void TPushControl::CmDialogChar(TMessage& message) {
 }
 
 // --- messages
-// -------------------------------------------------------------------------------------------------
 
 void TPushControl::Dispatch(TMessage& message) {
     switch (message.Msg) {
