@@ -7,7 +7,7 @@
 namespace tms {
 namespace {
 
-constexpr int MaxGlow = 96;
+constexpr int MaxGlow = 160;
 
 /// The mixture of a and b, b weighing part / whole; rounded to the nearest.
 TColor Mix(TColor a, TColor b, int part, int whole) {
@@ -50,11 +50,11 @@ void PaintHalf(const TBitmapBits& bits, const THalf& half) {
     }
 }
 
-void PaintGlow(const TBitmapBits& bits, const TRect& area) {
+void PaintGlow(const TBitmapBits& bits, const TRect& area, TColor color) {
     for (int y = area.Top; y < area.Bottom; ++y) {
         for (int x = area.Left; x < area.Right; ++x) {
             const int strength = GlowStrength({x, y}, {bits.Width, bits.Height});
-            if (strength > 0) bits.SetColor(x, y, Mix(bits.GetColor(x, y), clWhite, strength, 255));
+            if (strength > 0) bits.SetColor(x, y, Mix(bits.GetColor(x, y), color, strength, 255));
         }
     }
 }
@@ -144,7 +144,10 @@ void PaintGlowFace(const TBitmapBits& bits, const TGlowColors& colors, bool roun
     TCorners corners(bits);
     const TColor border = ColorToRGB(colors.Border);
     PaintInside(bits, colors);
-    if (glow) PaintGlow(bits, {1, 1, bits.Width - 1, bits.Height - 1});
+    if (glow) {
+        const TColor light = Mix(ColorToRGB(colors.ColorMirror), clWhite, 1, 2);
+        PaintGlow(bits, {1, 1, bits.Width - 1, bits.Height - 1}, light);
+    }
     PaintBorder(bits, border);
     if (rounded) corners.Round(border);
 }

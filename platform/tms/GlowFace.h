@@ -10,9 +10,9 @@ namespace tms {
 /// corner), the second one at its last, in between mixed in proportion and rounded.
 [[nodiscard]] TColor GradientColor(TGDIPGradient kind, TColor from, TColor to, TPoint pixel, TSize area);
 
-/// How much white the glow mixes in at a pixel of a face of that size, 0 to 255: most in the middle of the
-/// bottom row, less with the distance from it, nothing beyond half the width to the sides and the height
-/// upwards.
+/// How much of its colour the glow mixes in at a pixel of a face of that size, 0 to 255: most in the middle
+/// of the bottom row, less with the distance from it, nothing beyond half the width to the sides and the
+/// height upwards.
 [[nodiscard]] int GlowStrength(TPoint pixel, TSize face);
 
 /// The radius of round corners in pixels.

@@ -83,19 +83,23 @@ TEST_F(GlowFace, TheGlowIsStrongestInTheMiddleOfTheBottom) {
     }
     for (int y = 1; y < 25; ++y)
         EXPECT_GE(GlowStrength({50, y}, size), GlowStrength({50, y - 1}, size));
-    EXPECT_EQ(GlowStrength({50, 24}, size), 96);
+    EXPECT_EQ(GlowStrength({50, 24}, size), 160);
     EXPECT_EQ(GlowStrength({0, 0}, size), 0);
     EXPECT_EQ(GlowStrength({100, 12}, size), 0);
 }
 
-TEST_F(GlowFace, TheGlowMixesWhiteIntoTheGradients) {
+TEST_F(GlowFace, TheGlowMixesItsLightIntoTheGradients) {
     const Pixels plain = Face(61, 25, Colors), glowing = Face(61, 25, Colors, false, true);
     for (int y = 1; y < 24; ++y) {
         for (int x = 1; x < 60; ++x) {
             const int strength = GlowStrength({x, y}, {61, 25});
-            const auto lit = [&](int c) { return (c * (255 - strength) + 255 * strength + 127) / 255; };
+            // Halfway from the mirror colour, red, to white.
+            const auto lit = [&](int c, int light) {
+                return (c * (255 - strength) + light * strength + 127) / 255;
+            };
             const COLORREF c = plain.At(x, y);
-            ASSERT_EQ(glowing.At(x, y), RGB(lit(GetRValue(c)), lit(GetGValue(c)), lit(GetBValue(c))))
+            ASSERT_EQ(glowing.At(x, y),
+                      RGB(lit(GetRValue(c), 255), lit(GetGValue(c), 128), lit(GetBValue(c), 128)))
                 << x << ", " << y;
         }
     }
