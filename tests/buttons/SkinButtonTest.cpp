@@ -271,4 +271,34 @@ TEST_F(SkinButton, TenThousandCyclesLeaveNothingBehind) {
     EXPECT_EQ(before.ChangeSince(), "");
 }
 
+TEST_F(SkinButton, AHundredFormsLeaveNothingBehind) {
+    const test::ResourceSnapshot before = test::ResourceSnapshot::Take();
+    for (int i = 0; i < 100; ++i) {
+        TForm form(nullptr);
+        for (int k = 0; k < 3; ++k) {
+            auto* skin = new TCustomQV7SkinButton(&form);
+            skin->SetBounds(10, 10 + 40 * k, 90 + 10 * k, 30);
+            skin->SetParent(&form);
+            auto* glow = new TQV7SkinButton(&form);
+            glow->SetBounds(150, 10 + 40 * k, 100, 30);
+            glow->SetParent(&form);
+        }
+        form.Show();
+        form.Update();
+    }
+    PumpAll();
+    EXPECT_EQ(before.ChangeSince(), "");
+}
+
+TEST_F(SkinButton, TheLastOneTakesTheFrameBitmapsWithIt) {
+    delete std::exchange(Button, nullptr);
+    const test::ResourceSnapshot before = test::ResourceSnapshot::Take();
+    Make<test::ProbeSkinButton>({10, 10, 110, 35});
+    PumpAll();
+    EXPECT_NE(before.ChangeSince(), "");
+    delete Form().WinControls().front();
+    PumpAll();
+    EXPECT_EQ(before.ChangeSince(), "");
+}
+
 }  // namespace
