@@ -50,9 +50,8 @@ std::vector<RECT> RectsOfRegion(HRGN region) {
     std::vector<std::byte> buffer(size);
     auto* data = reinterpret_cast<RGNDATA*>(buffer.data());
     if (!::GetRegionData(region, size, data)) RaiseOutOfResources();
-    std::vector<RECT> rects(data->rdh.nCount);
-    std::memcpy(rects.data(), data->Buffer, rects.size() * sizeof(RECT));
-    return rects;
+    const auto* first = reinterpret_cast<const RECT*>(data->Buffer);
+    return {first, first + data->rdh.nCount};
 }
 
 TRegionHandle CopyRegion(HRGN region) {
