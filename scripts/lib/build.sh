@@ -4,6 +4,7 @@
 PRESET=${PRESET:-mingw}
 BUILD_FLAGS=${BUILD_FLAGS:-}
 # shellcheck disable=SC2034 # for the other parts
+# shellcheck disable=SC2034 # for wine.sh and commands.sh
 BIN=build/$PRESET/bin
 
 # build TARGET...: compiles the named targets; "all" is one.

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # The commands of ./run. A command whose program this tree does not have is not offered.
 
-is_command() { command_lines | grep -q "^$1[ |]"; }
+is_command() { command_lines | cut -d '|' -f 1 | grep -x "$1" >/dev/null; }
 
 # Name, what may follow it, what it does.
 command_lines() {
