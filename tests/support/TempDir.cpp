@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -35,6 +36,11 @@ std::wstring TempDir::Write(std::wstring_view name, std::string_view bytes) cons
 std::string TempDir::Read(std::wstring_view name) const {
     std::ifstream in(std::filesystem::path(File(name)), std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void AgeFile(const std::wstring& fileName) {
+    using std::filesystem::last_write_time;
+    last_write_time(fileName, last_write_time(fileName) - std::chrono::hours(24));
 }
 
 }  // namespace test

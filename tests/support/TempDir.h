@@ -26,4 +26,7 @@ private:
     std::wstring FPath;
 };
 
+/// Makes the file a day older than it is.
+void AgeFile(const std::wstring& fileName);
+
 }  // namespace test

@@ -4,6 +4,7 @@
 
 #include <uxtheme.h>
 
+#include <iterator>
 #include <utility>
 
 #include "platform/vcl/controls/AppServices.h"
@@ -56,12 +57,12 @@ void OpenAMenu(HWND owner) {
 void ShowWindows() {
     const HWND top = CreateWindowExW(0, L"Static", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 200,
                                      nullptr, nullptr, nullptr, nullptr);
-    int left = 0;
-    for (const wchar_t* name : {L"Button", L"Edit", L"ListBox", L"ComboBox", L"Static", L"ScrollBar"}) {
-        CreateWindowExW(0, name, L"x", WS_CHILD | WS_VISIBLE, left, 0, 40, 40, top, nullptr, nullptr,
-                        nullptr);
-        left += 40;
-    }
+    // Many at a time: Wine keeps a region for each of the windows that were painted at once.
+    constexpr int count = 90;
+    const wchar_t* const names[] = {L"Button", L"Edit", L"ListBox", L"ComboBox", L"Static", L"ScrollBar"};
+    for (int i = 0; i < count; ++i)
+        CreateWindowExW(0, names[i % std::size(names)], L"x", WS_CHILD | WS_VISIBLE, i % 30 * 12, i / 30 * 50,
+                        12, 40, top, nullptr, nullptr, nullptr);
     RedrawWindow(top, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW | RDW_ALLCHILDREN);
     PumpAll();
     OpenAMenu(top);

@@ -4,6 +4,8 @@
 #include <map>
 #include <utility>
 
+#include "platform/vcl/controls/DragSession.h"
+#include "platform/vcl/controls/Mouse.h"
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/core/Resources.h"
@@ -84,8 +86,13 @@ HINSTANCE TAppServices::Instance() const {
 
 bool OfferKeyMessage(const MSG& message) {
     if (message.message < WM_KEYFIRST || message.message > WM_KEYLAST) return false;
-    // The pointer is busy: keys are for whoever holds it.
-    if (::GetCapture()) return false;
+    if (OfferKeyToDrag(message)) return true;
+    if (const HWND capturer = ::GetCapture()) {
+        // The pointer is busy: keys are no dialog keys, but may end what a control without a window does.
+        const TControl* holder = message.message == WM_KEYDOWN ? GetCaptureControl() : nullptr;
+        return holder && !holder->AsWinControl() && FindControl(capturer) == holder->GetParent() &&
+               ::SendMessageW(capturer, CN_KEYDOWN, message.wParam, message.lParam) != 0;
+    }
     HWND window = message.hwnd;
     TWinControl* control = nullptr;
     // Windows inside a control of the system (the edit of a combo box) belong to that control.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <exception>
+#include <vector>
 
 #include "platform/vcl/controls/ControlTypes.h"
 #include "platform/vcl/controls/Messages.h"
@@ -9,6 +10,7 @@ namespace vcl {
 
 class TBasicAction;
 class TControl;
+class TObject;
 class TWinControl;
 
 /// What controls need of the application above them. This base answers sensibly without one; `forms/`
@@ -24,6 +26,8 @@ public:
     virtual void HintMouseMessage(TControl*, TMessage&) {}
     /// Hides the hint that is shown.
     virtual void CancelHint() {}
+    /// Shows the text where the program shows what is under the pointer, such as a status bar.
+    virtual void SetHint(const String&) {}
     /// The handle of a cursor number; unknown numbers give the arrow. Not owned by the caller.
     [[nodiscard]] virtual HCURSOR CursorHandle(TCursor cursor);
     /// The cursor that overrides those of all controls; crDefault when none does.
@@ -35,6 +39,9 @@ public:
     /// An action that its own handlers left alone; true when the program handled it.
     virtual bool ExecuteAction(TBasicAction*) { return false; }
     virtual bool UpdateAction(TBasicAction*) { return false; }
+    /// What an action may act on, in the order in which it asks: the control with the focus, the controls
+    /// around it and their form, the main form, the program.
+    [[nodiscard]] virtual std::vector<TObject*> ActionTargets() { return {}; }
     /// True while one of the program's windows is the active one.
     [[nodiscard]] virtual bool IsActive() const { return true; }
     /// Before and after a modal loop of the system or of a form (menus, dialogs, drags).

@@ -18,7 +18,10 @@ struct TActionValues {
     bool Enabled = true;
     bool Visible = true;
     bool Checked = false;
+    /// Whether running the action checks it, or unchecks it when it has no group.
+    bool AutoCheck = false;
     int GroupIndex = 0;
+    int HelpContext = 0;
     int ImageIndex = -1;
     WORD ShortCut = 0;
 };
@@ -43,7 +46,9 @@ public:
     virtual void SetEnabled(bool) {}
     virtual void SetVisible(bool) {}
     virtual void SetChecked(bool) {}
+    virtual void SetAutoCheck(bool) {}
     virtual void SetGroupIndex(int) {}
+    virtual void SetHelpContext(int) {}
     virtual void SetImageIndex(int) {}
     virtual void SetShortCut(WORD) {}
     virtual void SetOnExecute(const TNotifyEvent&) {}
@@ -94,10 +99,12 @@ protected:
     void Notification(TComponent* component, TOperation operation) override;
     [[nodiscard]] const std::vector<TBasicActionLink*>& Links() const { return FLinks; }
 
+    /// For tables of published properties; everybody else sets it through `SetOnExecute`.
+    TNotifyEvent FOnExecute;
+
 private:
     friend class TBasicActionLink;
     std::vector<TBasicActionLink*> FLinks;
-    TNotifyEvent FOnExecute;
     TComponent* FActionComponent = nullptr;
 };
 

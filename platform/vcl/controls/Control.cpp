@@ -2,13 +2,23 @@
 
 #include "platform/vcl/controls/BasicAction.h"
 #include "platform/vcl/controls/ContextMenu.h"
+#include "platform/vcl/controls/DragSession.h"
 #include "platform/vcl/controls/MouseState.h"
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Font.h"
+#include "platform/vcl/streaming/SkippedProperties.h"
 
 namespace vcl {
+namespace {
+
+bool HasLimits(const TSizeConstraints& constraints) {
+    return constraints.GetMinWidth() > 0 || constraints.GetMinHeight() > 0 || constraints.GetMaxWidth() > 0 ||
+           constraints.GetMaxHeight() > 0;
+}
+
+}  // namespace
 
 const TMetaClass& TControl::StaticClass() {
     using C = TControl;
@@ -35,12 +45,14 @@ TControl::TControl(TComponent* AOwner)
 TControl::~TControl() {
     Destroying();
     ForgetControl(*this);
+    ForgetDraggedControl(*this);
     if (FParent) FParent->RemoveControl(this);
 }
 
 void TControl::BeforeDestruction() {
     TComponent::BeforeDestruction();
     ForgetControl(*this);
+    ForgetDraggedControl(*this);
 }
 
 void TControl::SetParent(TWinControl* value) {
@@ -69,8 +81,16 @@ void TControl::Notification(TComponent* component, TOperation operation) {
     if (FActionLink && component == FActionLink->GetAction()) FActionLink.reset();
 }
 
+void TControl::DefineProperties(TFiler& filer) {
+    TComponent::DefineProperties(filer);
+    // Bounds before alignment changed them, for designers that undo it.
+    SkipProperties(filer, {L"ExplicitLeft", L"ExplicitTop", L"ExplicitWidth", L"ExplicitHeight"});
+}
+
 void TControl::Loaded() {
     TComponent::Loaded();
+    // While it was being read its limits did not count.
+    if (HasLimits(*FConstraints)) SetBounds(FLeft, FTop, FWidth, FHeight);
     if (FActionLink) ActionChange(FActionLink->GetAction(), true);
 }
 

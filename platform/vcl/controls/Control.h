@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/vcl/controls/ControlTypes.h"
+#include "platform/vcl/controls/DragTypes.h"
 #include "platform/vcl/controls/Messages.h"
 #include "platform/vcl/controls/SizeConstraints.h"
 #include "platform/vcl/core/Component.h"
@@ -15,6 +16,7 @@ namespace vcl {
 class TBasicAction;
 class TBasicActionLink;
 class TContextMenu;
+class TDragImageList;
 class TFont;
 class TWinControl;
 struct THintInfo;
@@ -171,12 +173,27 @@ public:
     /// Ends what a press began: nothing becomes a click any more.
     void CancelPress() { FControlState = FControlState - TControlState{csClicked, csLButtonDown}; }
 
-    // --- drag and drop
+    // --- drag and drop (ControlDrag.cpp, DragObject.h)
     [[nodiscard]] TDragMode GetDragMode() const { return FDragMode; }
     /// dmAutomatic: a press of the left button begins a drag instead of a click.
     virtual void SetDragMode(TDragMode value) { FDragMode = value; }
+    [[nodiscard]] TDragKind GetDragKind() const { return FDragKind; }
+    void SetDragKind(TDragKind value) { FDragKind = value; }
+    /// Shown while the control is dragged over one that accepts it.
     [[nodiscard]] TCursor GetDragCursor() const { return FDragCursor; }
     void SetDragCursor(TCursor value) { FDragCursor = value; }
+    /// Begins to drag the control until the button is released, the capture is lost or Escape is pressed:
+    /// at once, or when the pointer has moved `threshold` pixels in either direction (less than 0:
+    /// `Mouse().GetDragThreshold()`). A press of the control that is under way ends with its mouse-up, and
+    /// with its click when the drag is not immediate. Nothing happens while something is being dragged.
+    /// Raises EInvalidOperation "Cannot drag a form".
+    void BeginDrag(bool immediate, int threshold = -1);
+    /// Ends the drag of the control, with or without a drop.
+    void EndDrag(bool drop);
+    /// True while the control is being dragged: begun, past the threshold, and not yet ended.
+    [[nodiscard]] bool Dragging() const;
+    /// Something was dropped on the control; raises `OnDragDrop`.
+    virtual void DragDrop(TObject* source, int x, int y);
 
     // --- events that every control can raise; classes publish those that fit
     TNotifyEvent OnClick;
@@ -194,6 +211,11 @@ public:
     TCanResizeEvent OnCanResize;
     TConstrainedResizeEvent OnConstrainedResize;
     TContextPopupEvent OnContextPopup;
+    TStartDragEvent OnStartDrag;
+    TEndDragEvent OnEndDrag;
+    /// Without a handler the control accepts nothing.
+    TDragOverEvent OnDragOver;
+    TDragDropEvent OnDragDrop;
 
     // --- rules for form files
     [[nodiscard]] bool IsColorStored() const { return !FParentColor; }
@@ -210,6 +232,9 @@ protected:
     friend class TWinControl;
     friend class TControlLayout;
     friend class TControlActionLink;
+    friend class TBaseDragControlObject;
+    friend class TDragControlObject;
+    friend class TDragSession;
 
     /// Sees every message first: design state, mouse, hints; then `Dispatch`.
     virtual void WndProc(TMessage& message);
@@ -219,6 +244,7 @@ protected:
     virtual void DefaultHandler(TMessage& message);
 
     void Notification(TComponent* component, TOperation operation) override;
+    void DefineProperties(TFiler& filer) override;
     void Loaded() override;
     void BeforeDestruction() override;
 
@@ -278,7 +304,17 @@ protected:
 
     /// A press on a control with dmAutomatic: begins the drag. False when it can't be dragged, so that the
     /// press is one like others.
-    virtual bool BeginAutoDrag() { return false; }
+    virtual bool BeginAutoDrag();
+    /// The drag begins: may supply a drag object; raises `OnStartDrag`.
+    virtual void DoStartDrag(TDragObject*& dragObject);
+    /// The drag of the control is over; raises `OnEndDrag`.
+    virtual void DoEndDrag(TObject* target, int x, int y);
+    /// The drag of the control ends without a drop; comes before `DoEndDrag`.
+    virtual void DragCanceled() {}
+    /// Something is dragged over the control, in client pixels: answers whether it may be dropped.
+    virtual void DragOver(TObject* source, int x, int y, TDragState state, bool& accept);
+    /// The images of which one follows the pointer while the control is dragged; null for none. Not owned.
+    [[nodiscard]] virtual TDragImageList* GetDragImages() { return nullptr; }
 
 private:
     struct TAnchorBase {
@@ -308,6 +344,7 @@ private:
     void CmMouseEnterLeave(TMessage& message, bool enter);
     void CmVisibleChanged(TMessage& message);
     void CmCursorChanged();
+    void CmDrag(TMessage& message);
     void DoMouseDown(const TMessage& message, TMouseButton button, TShiftState shift);
 
     TWinControl* FParent = nullptr;
@@ -323,6 +360,7 @@ private:
     TCursor FCursor = crDefault;
     TCursor FDragCursor = crDrag;
     TDragMode FDragMode = dmManual;
+    TDragKind FDragKind = dkDrag;
     bool FVisible = true;
     bool FEnabled = true;
     bool FParentColor = true;

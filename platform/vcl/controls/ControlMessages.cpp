@@ -122,6 +122,8 @@ void TControl::Dispatch(TMessage& message) {
             return Invalidate();
         case CM_CURSORCHANGED:
             return CmCursorChanged();
+        case CM_DRAG:
+            return CmDrag(message);
         case CM_PARENTCOLORCHANGED:
             return ParentColorChanged();
         case CM_PARENTFONTCHANGED:

@@ -42,7 +42,7 @@ void TControl::SetColor(TColor value) {
 void TControl::SetParentColor(bool value) {
     if (value == FParentColor) return;
     FParentColor = value;
-    if (FParent && !IsInState(csReading)) Perform(CM_PARENTCOLORCHANGED);
+    if (FParent) Perform(CM_PARENTCOLORCHANGED);
 }
 
 void TControl::ParentColorChanged() {
@@ -64,7 +64,7 @@ void TControl::FontChanged(TObject*) {
 void TControl::SetParentFont(bool value) {
     if (value == FParentFont) return;
     FParentFont = value;
-    if (FParent && !IsInState(csReading)) Perform(CM_PARENTFONTCHANGED);
+    if (FParent) Perform(CM_PARENTFONTCHANGED);
 }
 
 void TControl::ParentFontChanged() {
@@ -106,7 +106,7 @@ void TControl::SetShowHint(bool value) {
 void TControl::SetParentShowHint(bool value) {
     if (value == FParentShowHint) return;
     FParentShowHint = value;
-    if (FParent && !IsInState(csReading)) Perform(CM_PARENTSHOWHINTCHANGED);
+    if (FParent) Perform(CM_PARENTSHOWHINTCHANGED);
 }
 
 void TControl::ParentShowHintChanged() {
@@ -159,7 +159,9 @@ void TControl::ActionChange(TObject* sender, bool checkDefaults) {
     auto* action = dynamic_cast<TBasicAction*>(sender);
     if (!action) return;
     const TLifeGuard guard(*this);
-    if (!checkDefaults || !OnClick) OnClick = action->GetOnExecute();
+    // A handler that a designer knows by its name counts too.
+    const bool hasHandler = OnClick || OnClick.MethodName();
+    if (!checkDefaults || !hasHandler) OnClick = action->GetOnExecute();
     const TActionValues* shown = action->Values();
     if (!shown) return;
     const TActionValues values = *shown;

@@ -17,7 +17,6 @@ constexpr std::array BevelKindNames{L"bkNone", L"bkTile", L"bkSoft", L"bkFlat"};
 constexpr std::array BevelEdgeNames{L"beLeft", L"beTop", L"beRight", L"beBottom"};
 constexpr std::array BorderNames{L"bsNone",   L"bsSingle",     L"bsSizeable",
                                  L"bsDialog", L"bsToolWindow", L"bsSizeToolWin"};
-constexpr std::array DragModeNames{L"dmManual", L"dmAutomatic"};
 
 constexpr std::array Cursors{
     TIdentifier{L"crDefault", crDefault},     TIdentifier{L"crNone", crNone},
@@ -128,9 +127,6 @@ std::span<const wchar_t* const> TEnumNames<TBevelEdge>::Names() {
 }
 std::span<const wchar_t* const> TEnumNames<TFormBorderStyle>::Names() {
     return BorderNames;
-}
-std::span<const wchar_t* const> TEnumNames<TDragMode>::Names() {
-    return DragModeNames;
 }
 
 }  // namespace vcl

@@ -76,8 +76,6 @@ enum class TFormBorderStyle { bsNone, bsSingle, bsSizeable, bsDialog, bsToolWind
 /// The two border styles of controls: bsNone and bsSingle.
 using TBorderStyle = TFormBorderStyle;
 
-enum class TDragMode { dmManual, dmAutomatic };
-
 using enum TAlign;
 using enum TAnchorKind;
 using enum TMouseButton;
@@ -89,7 +87,6 @@ using enum TBevelCut;
 using enum TBevelKind;
 using enum TBevelEdge;
 using enum TFormBorderStyle;
-using enum TDragMode;
 
 /// The place in the parent's tab order; -1 without a parent or for the end.
 using TTabOrder = int;
@@ -204,10 +201,6 @@ struct TEnumNames<TBevelEdge> {
 };
 template <>
 struct TEnumNames<TFormBorderStyle> {
-    static std::span<const wchar_t* const> Names();
-};
-template <>
-struct TEnumNames<TDragMode> {
     static std::span<const wchar_t* const> Names();
 };
 

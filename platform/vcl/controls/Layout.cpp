@@ -45,16 +45,24 @@ bool TControlLayout::IsNeeded() const {
     return false;
 }
 
+/// By the edges that they keep to. A control without extent keeps its place before a neighbour at the same
+/// edge, or a splitter could never open it again.
 bool TControlLayout::ComesBefore(const TControl& a, const TControl& b, TAlign align) {
     switch (align) {
         case alTop:
-            return a.GetTop() < b.GetTop();
-        case alBottom:
-            return a.GetTop() + a.GetHeight() >= b.GetTop() + b.GetHeight();
+            return a.GetTop() < b.GetTop() ||
+                   (a.GetTop() == b.GetTop() && a.GetHeight() == 0 && b.GetHeight() > 0);
+        case alBottom: {
+            const int below = a.GetTop() + a.GetHeight() - b.GetTop() - b.GetHeight();
+            return below > 0 || (below == 0 && (a.GetHeight() == 0 || b.GetHeight() > 0));
+        }
         case alLeft:
-            return a.GetLeft() < b.GetLeft();
-        case alRight:
-            return a.GetLeft() + a.GetWidth() >= b.GetLeft() + b.GetWidth();
+            return a.GetLeft() < b.GetLeft() ||
+                   (a.GetLeft() == b.GetLeft() && a.GetWidth() == 0 && b.GetWidth() > 0);
+        case alRight: {
+            const int further = a.GetLeft() + a.GetWidth() - b.GetLeft() - b.GetWidth();
+            return further > 0 || (further == 0 && (a.GetWidth() == 0 || b.GetWidth() > 0));
+        }
         default:
             return false;
     }

@@ -71,7 +71,9 @@ inline constexpr UINT CM_MOUSELEAVE = CM_BASE + 20;  ///< LParam: like CM_MOUSEE
 inline constexpr UINT CM_MENUCHANGED = CM_BASE + 21;
 inline constexpr UINT CM_APPKEYDOWN =
     CM_BASE + 22;  ///< Key message offered to the application (menu short cuts).
-inline constexpr UINT CM_APPSYSCOMMAND = CM_BASE + 23;
+inline constexpr UINT CM_APPSYSCOMMAND =
+    CM_BASE +
+    23;  ///< WParam, LParam: of WM_SYSCOMMAND SC_KEYMENU; to all controls of a form. Result 1: used.
 inline constexpr UINT CM_BUTTONPRESSED =
     CM_BASE + 24;  ///< WParam: group index, LParam: the button that went down.
 inline constexpr UINT CM_SHOWINGCHANGED = CM_BASE + 25;  ///< The window has to be shown or hidden.
@@ -100,7 +102,8 @@ inline constexpr UINT CM_CONTROLLISTCHANGE =
 inline constexpr UINT CM_GETDATALINK = CM_BASE + 45;
 inline constexpr UINT CM_CHILDKEY =
     CM_BASE + 46;  ///< WParam: virtual key, LParam: TWinControl* with the focus; Result 1: used.
-inline constexpr UINT CM_DRAG = CM_BASE + 47;      ///< LParam: the drag record; Result by drag message.
+inline constexpr UINT CM_DRAG =
+    CM_BASE + 47;  ///< To the window under the pointer. WParam: TDragMessage, LParam: TDragRec*.
 inline constexpr UINT CM_HINTSHOW = CM_BASE + 48;  ///< LParam: THintInfo*; Result other than 0: no hint.
 inline constexpr UINT CM_DIALOGHANDLE = CM_BASE + 49;
 inline constexpr UINT CM_ISTOOLCONTROL = CM_BASE + 50;

@@ -58,6 +58,15 @@ inline constexpr auto StateRows = []<class C>(TClassDefinition<C>&& table) -> TC
         .Property(L"Visible", &C::GetVisible, &C::SetVisible, true);
 };
 
+/// `DragCursor`, `DragKind`, `DragMode`.
+inline constexpr auto DragRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
+    return std::move(table)
+        .Property(L"DragCursor", &C::GetDragCursor, &C::SetDragCursor, crDrag)
+        .Identifiers(CursorIdentifiers())
+        .Property(L"DragKind", &C::GetDragKind, &C::SetDragKind, dkDrag)
+        .Property(L"DragMode", &C::GetDragMode, &C::SetDragMode, dmManual);
+};
+
 /// `Action`, `Caption`.
 inline constexpr auto ActionRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
     return std::move(table)
@@ -88,6 +97,7 @@ inline constexpr auto WindowRows = []<class C>(TClassDefinition<C>&& table) -> T
 inline constexpr auto MouseRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
     return std::move(table)
         .Event(L"OnClick", &C::OnClick)
+        .Stored(&C::IsOnClickStored)
         .Event(L"OnContextPopup", &C::OnContextPopup)
         .Event(L"OnDblClick", &C::OnDblClick)
         .Event(L"OnMouseDown", &C::OnMouseDown)
@@ -95,6 +105,15 @@ inline constexpr auto MouseRows = []<class C>(TClassDefinition<C>&& table) -> TC
         .Event(L"OnMouseLeave", &C::OnMouseLeave)
         .Event(L"OnMouseMove", &C::OnMouseMove)
         .Event(L"OnMouseUp", &C::OnMouseUp);
+};
+
+/// The events of drag and drop.
+inline constexpr auto DragEventRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
+    return std::move(table)
+        .Event(L"OnDragDrop", &C::OnDragDrop)
+        .Event(L"OnDragOver", &C::OnDragOver)
+        .Event(L"OnEndDrag", &C::OnEndDrag)
+        .Event(L"OnStartDrag", &C::OnStartDrag);
 };
 
 /// The events of focus and keyboard.

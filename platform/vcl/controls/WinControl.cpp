@@ -5,6 +5,7 @@
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Brush.h"
+#include "platform/vcl/streaming/SkippedProperties.h"
 
 namespace vcl {
 
@@ -39,6 +40,12 @@ void TWinControl::BeforeDestruction() {
 
 void TWinControl::Notification(TComponent* component, TOperation operation) {
     TControl::Notification(component, operation);
+}
+
+void TWinControl::DefineProperties(TFiler& filer) {
+    TControl::DefineProperties(filer);
+    // The client size at design time; anchors go by the size that the parent has when it is loaded.
+    SkipProperties(filer, {L"DesignSize"});
 }
 
 void TWinControl::Loaded() {

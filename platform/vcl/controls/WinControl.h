@@ -82,6 +82,9 @@ public:
     /// The same for messages whose answers do not matter.
     void NotifyControls(UINT msg);
     void GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root) override;
+    /// Moves a child to that place of `GetControl`, as far as its kind goes: those without a window stay
+    /// first.
+    void SetChildOrder(TComponent* child, int order) override;
 
     // --- layout (WinControlLayout.cpp, Layout.h)
     void DisableAlign() { ++FAlignLevel; }
@@ -167,6 +170,7 @@ protected:
     void Dispatch(TMessage& message) override;
     void DefaultHandler(TMessage& message) override;
     void Notification(TComponent* component, TOperation operation) override;
+    void DefineProperties(TFiler& filer) override;
     void Loaded() override;
     void BeforeDestruction() override;
 
@@ -183,6 +187,12 @@ protected:
     virtual void DestroyWnd();
     virtual void DestroyWindowHandle();
     virtual void DestroyHandle();
+    /// Where the window stands for the control's bounds: there, as far as the system can hold such a place
+    /// (16 bits with a sign, 0 to 32,767 for sizes). The bounds themselves have no limits. Descendants whose
+    /// window shows only a part of them override it.
+    [[nodiscard]] virtual TRect WindowPlace(const TRect& bounds) const;
+    /// Moves the window to the place of the bounds, for descendants whose `WindowPlace` changed.
+    void PlaceWindow();
     /// Pixels that the window's frame takes at each edge of the bounds, asked while there is no window.
     /// Descendants with borders of the system override it.
     [[nodiscard]] virtual TRect GetFrameInsets() const;
@@ -253,6 +263,9 @@ private:
     void PlaceInZOrder();
     // geometry
     void MoveWindowTo(const TRect& next);
+    void MovePartly(const TRect& next);
+    [[nodiscard]] TRect WindowBounds() const;
+    [[nodiscard]] bool HasWindowEverywhere(int dx, int dy) const;
     void MoveWithoutWindow(const TRect& next);
     void TakeWindowBounds();
     [[nodiscard]] TSize FrameSize() const;

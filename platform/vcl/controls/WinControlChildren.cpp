@@ -146,6 +146,35 @@ void TWinControl::GetChildren(const std::function<void(TComponent*)>& visit, TCo
     }
 }
 
+namespace {
+
+/// Moves an entry of a list to another place, or to the end that is nearer.
+template <class T>
+void MoveTo(std::vector<T*>& list, T* entry, int place) {
+    const auto found = std::ranges::find(list, entry);
+    if (found == list.end()) return;
+    list.erase(found);
+    list.insert(list.begin() + std::clamp(place, 0, static_cast<int>(list.size())), entry);
+}
+
+}  // namespace
+
+void TWinControl::SetChildOrder(TComponent* child, int order) {
+    auto* control = dynamic_cast<TControl*>(child);
+    if (!control || control->GetParent() != this) return;
+    TWinControl* moved = control->AsWinControl();
+    if (!moved) {
+        MoveTo(FGraphicControls, control, order);
+        control->Invalidate();
+        return;
+    }
+    MoveTo(FWinControls, moved, order - static_cast<int>(FGraphicControls.size()));
+    for (TWinControl* window : FWinControls) {
+        if (window->FHandle)
+            ::SetWindowPos(window->FHandle, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    }
+}
+
 void TWinControl::SetZOrder(bool topmost) {
     TWinControl* parent = GetParent();
     if (parent) {

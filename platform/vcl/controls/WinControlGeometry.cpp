@@ -27,8 +27,40 @@ void TWinControl::MoveWindowTo(const TRect& next) {
         StoreBounds(next);
         return;
     }
+    if (WindowPlace(next) != next || WindowPlace(GetBoundsRect()) != GetBoundsRect()) return MovePartly(next);
     // The window's own messages bring the new bounds back here.
     ::SetWindowPos(FHandle, nullptr, next.Left, next.Top, next.Width(), next.Height(),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+TRect TWinControl::WindowPlace(const TRect& bounds) const {
+    const int Last = 32767;
+    const auto place = [Last](int value) { return std::clamp(value, -Last - 1, Last); };
+    return TRect::OfSize(place(bounds.Left), place(bounds.Top), std::min(bounds.Width(), Last),
+                         std::min(bounds.Height(), Last));
+}
+
+/// The window can't tell the bounds, since it stands or will stand elsewhere.
+void TWinControl::MovePartly(const TRect& next) {
+    const TLifeGuard guard(*this);
+    const TRect former = GetBoundsRect();
+    const TRect window = WindowBounds();
+    const TRect place = WindowPlace(next);
+    const bool windowResized = place.Width() != window.Width() || place.Height() != window.Height();
+    StoreBounds(next);
+    PlaceWindow();
+    const bool resized = next.Width() != former.Width() || next.Height() != former.Height();
+    // Otherwise WM_SIZE did it.
+    if (!guard.IsAlive() || !resized || windowResized) return;
+    Realign();
+    if (guard.IsAlive() && !IsInState(csLoading)) Resize();
+}
+
+void TWinControl::PlaceWindow() {
+    if (!FHandle) return;
+    const TRect place = WindowPlace(GetBoundsRect());
+    if (place == WindowBounds()) return;
+    ::SetWindowPos(FHandle, nullptr, place.Left, place.Top, place.Width(), place.Height(),
                    SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -46,10 +78,11 @@ void TWinControl::WmWindowPosChanged(TMessage& message) {
     const bool moved = !(position.flags & SWP_NOMOVE);
     const bool resized = !(position.flags & SWP_NOSIZE);
     if ((moved || resized) && !::IsIconic(FHandle)) {
+        const TRect place = WindowPlace(GetBoundsRect());
         const TRect next =
-            TRect::OfSize(moved ? position.x : GetLeft(), moved ? position.y : GetTop(),
-                          resized ? position.cx : GetWidth(), resized ? position.cy : GetHeight());
-        if (next != GetBoundsRect()) StoreBounds(next);
+            TRect::OfSize(moved ? position.x : place.Left, moved ? position.y : place.Top,
+                          resized ? position.cx : place.Width(), resized ? position.cy : place.Height());
+        if (next != place) StoreBounds(next);
     }
     // WM_SIZE and WM_MOVE come from here.
     DefaultHandler(message);
@@ -63,13 +96,19 @@ void TWinControl::WmSize(TMessage& message) {
     if (guard.IsAlive() && !IsInState(csLoading)) Resize();
 }
 
-void TWinControl::TakeWindowBounds() {
-    if (::IsIconic(FHandle)) return;
+/// Where the window stands, in the coordinates of bounds.
+TRect TWinControl::WindowBounds() const {
     RECT bounds{};
     ::GetWindowRect(FHandle, &bounds);
     if (::GetWindowLongW(FHandle, GWL_STYLE) & WS_CHILD)
         ::MapWindowPoints(nullptr, ::GetParent(FHandle), reinterpret_cast<POINT*>(&bounds), 2);
-    if (TRect(bounds) != GetBoundsRect()) StoreBounds(bounds);
+    return bounds;
+}
+
+void TWinControl::TakeWindowBounds() {
+    if (::IsIconic(FHandle)) return;
+    const TRect bounds = WindowBounds();
+    if (bounds != WindowPlace(GetBoundsRect())) StoreBounds(bounds);
 }
 
 TRect TWinControl::GetClientRect() const {
@@ -159,6 +198,16 @@ bool TWinControl::CanAutoSize(int& newWidth, int& newHeight) {
     return true;
 }
 
+/// True when the windows of all children stand where their controls are, and will after the move.
+bool TWinControl::HasWindowEverywhere(int dx, int dy) const {
+    return std::ranges::all_of(FWinControls, [&](const TWinControl* child) {
+        TRect bounds = child->GetBoundsRect();
+        if (child->WindowPlace(bounds) != bounds) return false;
+        bounds.Offset(dx, dy);
+        return child->WindowPlace(bounds) == bounds;
+    });
+}
+
 void TWinControl::ScrollBy(int dx, int dy) {
     if (dx == 0 && dy == 0) return;
     const auto shift = [&](TControl& child) {
@@ -173,15 +222,24 @@ void TWinControl::ScrollBy(int dx, int dy) {
             shift(*child);
         return;
     }
+    const bool together = HasWindowEverywhere(dx, dy);
     // Windows of children move along and tell their controls.
     ::ScrollWindowEx(FHandle, dx, dy, nullptr, nullptr, nullptr, nullptr,
-                     SW_SCROLLCHILDREN | SW_INVALIDATE | SW_ERASE);
-    for (TWinControl* child : FWinControls) {
-        if (child->FHandle)
+                     SW_INVALIDATE | SW_ERASE | (together ? SW_SCROLLCHILDREN : 0));
+    // Otherwise one by one; nothing is laid out before all have moved.
+    const TLifeGuard guard(*this);
+    DisableAlign();
+    for (std::size_t i = 0; guard.IsAlive() && i < FWinControls.size(); ++i) {
+        TWinControl* child = FWinControls[i];
+        if (!child->FHandle)
+            shift(*child);
+        else if (together)
             child->TakeWindowBounds();
         else
-            shift(*child);
+            child->SetBounds(child->GetLeft() + dx, child->GetTop() + dy, child->GetWidth(),
+                             child->GetHeight());
     }
+    if (guard.IsAlive()) EnableAlign();
 }
 
 }  // namespace vcl

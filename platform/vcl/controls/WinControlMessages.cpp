@@ -105,6 +105,11 @@ void TWinControl::WndProc(TMessage& message) {
             if (!guard.IsAlive()) return;
             break;
         }
+        case CN_KEYDOWN: {
+            TControl* holder = CaptureInside(*this);
+            if (holder && holder != this) return holder->SendTo(message);
+            break;
+        }
         default:
             if (message.Msg >= WM_MOUSEFIRST && message.Msg <= WM_MOUSELAST && IsControlMouseMsg(message))
                 return;
@@ -188,6 +193,7 @@ void TWinControl::Dispatch(TMessage& message) {
             return;
         case CM_DIALOGKEY:
         case CM_DIALOGCHAR:
+        case CM_APPSYSCOMMAND:
         case CM_FOCUSCHANGED:
             return Broadcast(message);
         case CM_ENTER:

@@ -79,10 +79,11 @@ void TWinControl::CreateParams(TCreateParams& params) {
     }
     if (!IsInState(csDesigning) && !GetEnabled()) params.Style |= WS_DISABLED;
     if (FTabStop) params.Style |= WS_TABSTOP;
-    params.X = GetLeft();
-    params.Y = GetTop();
-    params.Width = GetWidth();
-    params.Height = GetHeight();
+    const TRect place = WindowPlace(GetBoundsRect());
+    params.X = place.Left;
+    params.Y = place.Top;
+    params.Width = place.Width();
+    params.Height = place.Height();
     params.WndParent = GetParent() ? GetParent()->GetHandle() : FParentWindow;
     params.WindowClass.style = CS_VREDRAW | CS_HREDRAW | CS_DBLCLKS;
     params.WindowClass.lpfnWndProc = ::DefWindowProcW;

@@ -11,12 +11,17 @@ struct TMessage;
 class TWindowMenu : public TComponent {
 public:
     using TComponent::TComponent;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
 
     /// The system's menu to show in the window's bar; 0 while it is empty. Owned by this object, also while a
     /// window shows it.
     [[nodiscard]] virtual HMENU GetMenuHandle() = 0;
-    /// Tells in which window the menu stands (0: in none), so that changes can redraw its bar.
+    /// Tells to which window the menu belongs (0: to none), so that changes can redraw its bar. A menu that
+    /// is empty and gets items sends that window CM_MENUCHANGED.
     virtual void SetWindowHandle(HWND window) = 0;
+    /// Whether a program that merges menus merges this one into that of the main form.
+    [[nodiscard]] virtual bool GetAutoMerge() const { return false; }
     /// Runs the item whose short cut the key message is; false when there is none.
     virtual bool IsShortCut(TMessage& message) = 0;
     /// Answers a menu message of the window (WM_COMMAND, WM_INITMENUPOPUP, WM_MEASUREITEM ...); false leaves

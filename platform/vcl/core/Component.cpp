@@ -71,6 +71,24 @@ void TComponent::ValidateRename(TComponent* component, const String& current, co
     if (IsInState(csDesigning) && FOwner) FOwner->ValidateRename(component, current, next);
 }
 
+void TComponent::ChangeName(const String& name) {
+    SetReference(false);
+    FName = name;
+    SetReference(true);
+}
+
+void TComponent::SetReference(bool present) {
+    if (!FOwner || FName.empty()) return;
+    // While the owner is being destroyed, its class is what is left of it: fields that are gone are not
+    // found.
+    const TPublishedField* field = FOwner->ClassType().FindField(FName);
+    if (!field) return;
+    if (!present)
+        field->Set(*FOwner, nullptr);
+    else if (InheritsFrom(field->Class()))
+        field->Set(*FOwner, this);
+}
+
 TComponent* TComponent::GetComponent(int index) const {
     if (index < 0 || index >= GetComponentCount())
         throw EListError(Format(L"List index out of bounds (%d)", index));
@@ -105,6 +123,7 @@ void TComponent::InsertComponent(TComponent* component) {
     ValidateRename(component, {}, component->FName);
     FComponents.push_back(component);
     component->FOwner = this;
+    component->SetReference(true);
     if (IsInState(csDesigning)) component->SetDesigning(true);
     Notification(component, opInsert);
 }
@@ -118,6 +137,7 @@ void TComponent::RemoveComponent(TComponent* component) {
 
 void TComponent::Unlist(TComponent* component) {
     // Mostly it is the last one that goes.
+    component->SetReference(false);
     const auto place = std::find(FComponents.rbegin(), FComponents.rend(), component);
     FComponents.erase(std::next(place).base());
     component->FOwner = nullptr;

@@ -121,9 +121,11 @@ protected:
     /// itself, with null, when it has no owner): raises EComponentError when the new name is taken. Must not
     /// raise when the name is given up, since that happens in destructors.
     virtual void ValidateRename(TComponent* component, const String& current, const String& next);
-    virtual void ChangeName(const String& name) { FName = name; }
+    virtual void ChangeName(const String& name);
 
 private:
+    /// Sets or empties the published field of the owner that has this component's name.
+    void SetReference(bool present);
     [[nodiscard]] bool OwnsOrIs(const TComponent* component) const;
     void Unlist(TComponent* component);
 

@@ -298,6 +298,16 @@ public:
                             }});
         return std::move(*this);
     }
+    /// A member that points to the component of that name, as long as the object owns one:
+    /// `.Component<&TMainForm::OkButton>(L"OkButton")`.
+    template <auto field>
+    TClassDefinition&& Component(const wchar_t* name) && {
+        using Class = detail::Pointee<decltype(std::declval<T&>().*field)>;
+        FFields.push_back({name, &Class::StaticClass, [](TComponent& owner, TComponent* component) {
+                               static_cast<T&>(owner).*field = static_cast<Class*>(component);
+                           }});
+        return std::move(*this);
+    }
 
     /// Adds the rows of a group that several classes share: `rows` takes the table and returns it.
     template <class Rows>

@@ -4,6 +4,7 @@
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <string>
 #include <type_traits>
 #include <typeinfo>
 #include <utility>
@@ -28,9 +29,20 @@ public:
         FFree.reset();
         std::memset(FBound, 0, sizeof FBound);
     }
-    /// Same object and same method, or the same copy of a free callable. (The thunk is left out: each module
-    /// has its own copy of it.)
+    /// For designers, which know a method by its name only: the event remembers the name for form files.
+    /// Nothing is bound, so that raising it does nothing. An empty name clears the event.
+    void SetMethodName(const std::wstring& name) {
+        Clear();
+        if (!name.empty()) FFree = std::make_shared<std::wstring>(name);
+    }
+    /// The name that `SetMethodName` gave, or null.
+    [[nodiscard]] const std::wstring* MethodName() const {
+        return FThunk ? nullptr : static_cast<const std::wstring*>(FFree.get());
+    }
+    /// Same object and same method, the same copy of a free callable, or the same name of a method. (The
+    /// thunk is left out: each module has its own copy of it.)
     friend bool operator==(const TEventBase& a, const TEventBase& b) {
+        if (a.MethodName() && b.MethodName()) return *a.MethodName() == *b.MethodName();
         return a.FObject == b.FObject && a.FFree == b.FFree &&
                std::memcmp(a.FBound, b.FBound, sizeof a.FBound) == 0;
     }

@@ -51,4 +51,13 @@ const TPublishedMethod* TMetaClass::FindMethod(StringView name) const {
     return nullptr;
 }
 
+const TPublishedField* TMetaClass::FindField(StringView name) const {
+    for (const TMetaClass* meta = this; meta; meta = meta->FParent) {
+        for (const TPublishedField& field : meta->FFields) {
+            if (SameText(field.Name, name)) return &field;
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace vcl

@@ -12,6 +12,7 @@ namespace vcl {
 class TCollection;
 class TCollectionItem;
 class TComponent;
+class TMetaClass;
 class TObject;
 class TPublishedProperty;
 
@@ -22,6 +23,15 @@ struct TPublishedMethod {
     void (*Bind)(TEventBase& event, TObject* instance);  ///< Binds the method of `instance` to `event`.
     /// True when `event`, of that signature, calls the method of `instance`.
     bool (*IsBound)(const TEventBase& event, TObject* instance);
+};
+
+/// A member of a class that points to one of its own components: it is set when a component of that name
+/// comes, and emptied when that goes.
+struct TPublishedField {
+    String Name;
+    const TMetaClass& (*Class)();  ///< The class that the component must have.
+    /// Sets the member of `owner`, an instance of the class that publishes it, to a component or to null.
+    void (*Set)(TComponent& owner, TComponent* component);
 };
 
 /// The description of a class at run time: its name, its ancestor, how to make one, and what it publishes.
@@ -51,6 +61,7 @@ public:
     /// What this very class adds, in the order of its table.
     [[nodiscard]] const Properties& OwnProperties() const { return FProperties; }
     [[nodiscard]] const std::vector<TPublishedMethod>& OwnMethods() const { return FMethods; }
+    [[nodiscard]] const std::vector<TPublishedField>& OwnFields() const { return FFields; }
     /// All published properties: ancestors first, a row of a descendant in the place of the row that it
     /// replaces.
     [[nodiscard]] std::vector<const TPublishedProperty*> AllProperties() const;
@@ -58,6 +69,7 @@ public:
     /// unknown.
     [[nodiscard]] const TPublishedProperty* FindProperty(StringView name) const;
     [[nodiscard]] const TPublishedMethod* FindMethod(StringView name) const;
+    [[nodiscard]] const TPublishedField* FindField(StringView name) const;
 
 protected:
     const wchar_t* FName;
@@ -66,6 +78,7 @@ protected:
     ItemFactory FItemFactory = nullptr;
     Properties FProperties;
     std::vector<TPublishedMethod> FMethods;
+    std::vector<TPublishedField> FFields;
 };
 
 }  // namespace vcl

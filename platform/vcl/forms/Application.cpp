@@ -1,6 +1,7 @@
 #include "platform/vcl/forms/Application.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Resources.h"
@@ -186,25 +187,28 @@ void TApplication::ActivateHint(TPoint cursorPos) {
 
 namespace {
 
-std::unique_ptr<TApplication>& Instance() {
-    static std::unique_ptr<TApplication> instance;
+/// Not freed by itself: at the end of the process the tables that windows and handles are entered in go
+/// first.
+TApplication*& Instance() {
+    static TApplication* instance = nullptr;
     return instance;
 }
 
 }  // namespace
 
 TApplication& Application() {
-    // The screen is made first, so that it goes last.
-    (void)Screen();
-    std::unique_ptr<TApplication>& instance = Instance();
-    if (!instance) instance.reset(new TApplication);
+    TApplication*& instance = Instance();
+    if (!instance) {
+        (void)Screen();
+        instance = new TApplication;
+    }
     return *instance;
 }
 
 void DoneApplication() {
     // Forms that end meanwhile still find the application.
     if (Instance()) Instance()->DestroyComponents();
-    Instance().reset();
+    delete std::exchange(Instance(), nullptr);
     DoneScreen();
 }
 

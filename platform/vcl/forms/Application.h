@@ -217,8 +217,8 @@ private:
 
 /// The application of the process, made on first use.
 [[nodiscard]] TApplication& Application();
-/// Frees the application with all that it owns, and the screen. Called at the end of the process too; a later
-/// call of `Application` makes a new one.
+/// Frees the application with all that it owns, and the screen. For the end of programs that count what is
+/// left; others leave it to the system. A later call of `Application` makes a new one.
 void DoneApplication();
 
 }  // namespace vcl

@@ -1,5 +1,6 @@
 #include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/controls/BasicAction.h"
+#include "platform/vcl/controls/MessageFilter.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/ApplicationHints.h"
 #include "platform/vcl/forms/CustomForm.h"
@@ -42,6 +43,7 @@ void TApplication::HandleMessage(MSG& message) {
         return;
     }
     try {
+        if (OfferToMessageFilters(message)) return;
         if (RaiseMessage(message)) return;
     } catch (...) {
         HandleException(this);

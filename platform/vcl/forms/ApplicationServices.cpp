@@ -1,7 +1,10 @@
 #include "platform/vcl/forms/ApplicationServices.h"
 
+#include <algorithm>
+
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/ApplicationHints.h"
+#include "platform/vcl/forms/CustomForm.h"
 #include "platform/vcl/forms/Screen.h"
 
 namespace vcl {
@@ -25,6 +28,10 @@ void TApplicationServices::CancelHint() {
     FApplication.CancelHint();
 }
 
+void TApplicationServices::SetHint(const String& text) {
+    FApplication.SetHint(text);
+}
+
 HCURSOR TApplicationServices::CursorHandle(TCursor cursor) {
     return Screen().GetCursorHandle(cursor);
 }
@@ -43,6 +50,23 @@ bool TApplicationServices::ExecuteAction(TBasicAction* action) {
 
 bool TApplicationServices::UpdateAction(TBasicAction* action) {
     return FApplication.UpdateAction(action);
+}
+
+std::vector<TObject*> TApplicationServices::ActionTargets() {
+    std::vector<TObject*> targets;
+    const auto add = [&](TObject* target) {
+        if (target && std::find(targets.begin(), targets.end(), target) == targets.end())
+            targets.push_back(target);
+    };
+    TCustomForm* form = Screen().GetActiveForm();
+    if (form && !form->GetShowing()) form = nullptr;
+    for (TControl* control = form ? form->GetActiveControl() : nullptr; control;
+         control = control->GetParent())
+        add(control);
+    add(form);
+    add(FApplication.GetMainForm());
+    add(&FApplication);
+    return targets;
 }
 
 bool TApplicationServices::IsActive() const {

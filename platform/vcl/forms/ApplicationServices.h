@@ -17,11 +17,13 @@ public:
     void HandleException(std::exception_ptr error) override;
     void HintMouseMessage(TControl* control, TMessage& message) override;
     void CancelHint() override;
+    void SetHint(const String& text) override;
     [[nodiscard]] HCURSOR CursorHandle(TCursor cursor) override;
     [[nodiscard]] TCursor ScreenCursor() const override;
     bool IsShortCut(TMessage& message) override;
     bool ExecuteAction(TBasicAction* action) override;
     bool UpdateAction(TBasicAction* action) override;
+    [[nodiscard]] std::vector<TObject*> ActionTargets() override;
     [[nodiscard]] bool IsActive() const override;
     void ModalStarted() override;
     void ModalFinished() override;

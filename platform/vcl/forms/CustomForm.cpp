@@ -6,6 +6,8 @@
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/graphics/Icon.h"
+#include "platform/vcl/menus/MenuLoop.h"
+#include "platform/vcl/streaming/SkippedProperties.h"
 
 namespace vcl {
 
@@ -65,8 +67,14 @@ void TCustomForm::RaiseDestroyFromDestructor() {
 void TCustomForm::Notification(TComponent* component, TOperation operation) {
     TScrollingWinControl::Notification(component, operation);
     if (operation != opRemove) return;
-    if (component == FMenu) SetWindowMenu(nullptr);
+    if (component == FMenu) SetMenu(nullptr);
     if (component == FPopupParent) SetPopupParent(nullptr);
+}
+
+void TCustomForm::DefineProperties(TFiler& filer) {
+    TScrollingWinControl::DefineProperties(filer);
+    // Forms are not scaled and raise OnCreate at one time only.
+    SkipProperties(filer, {L"TextHeight", L"OldCreateOrder"});
 }
 
 void TCustomForm::Loaded() {
@@ -75,7 +83,18 @@ void TCustomForm::Loaded() {
     TScrollingWinControl::Loaded();
     if (!guard.IsAlive()) return;
     if (active && active->CanFocus()) SetActiveControl(active);
-    if (guard.IsAlive() && !GetParent()) UpdateControlState();
+    // A form under design waits for the window that its designer puts it in.
+    const bool waits = IsInState(csDesigning) && !GetParentWindow();
+    if (guard.IsAlive() && !GetParent() && !waits) UpdateControlState();
+}
+
+void TCustomForm::GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root) {
+    TScrollingWinControl::GetChildren(visit, root);
+    if (root != this) return;
+    for (int i = 0; i < GetComponentCount(); ++i) {
+        TComponent* component = GetComponent(i);
+        if (!component->HasParent() && !dynamic_cast<TControl*>(component)) visit(component);
+    }
 }
 
 void TCustomForm::EnsureCreated() {
@@ -129,7 +148,11 @@ void TCustomForm::Dispatch(TMessage& message) {
         case WM_MENUCHAR:
         case WM_MEASUREITEM:
         case WM_DRAWITEM:
+        case WM_ENTERMENULOOP:
+            if (!OfferToMenu(message)) TScrollingWinControl::Dispatch(message);
+            return;
         case WM_EXITMENULOOP:
+            EndMenuLoop();
             if (!OfferToMenu(message)) TScrollingWinControl::Dispatch(message);
             return;
         case CM_ACTIVATE:
@@ -140,6 +163,8 @@ void TCustomForm::Dispatch(TMessage& message) {
             return CmDialogKey(message);
         case CM_SHOWINGCHANGED:
             return CmShowingChanged();
+        case CM_MENUCHANGED:
+            return ApplyWindowMenu();
         case CM_ICONCHANGED:
             return ApplyIcon();
         case CM_RELEASE:

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "platform/vcl/controls/ParentForm.h"
+#include "platform/vcl/controls/ScrollingWinControl.h"
 #include "platform/vcl/forms/FormTypes.h"
-#include "platform/vcl/forms/ScrollingWinControl.h"
 
 namespace vcl {
 
@@ -75,8 +75,8 @@ public:
     [[nodiscard]] TCustomForm* GetPopupParent() const { return FPopupParent; }
     void SetPopupParent(TCustomForm* value);
     /// The main menu; not owned.
-    [[nodiscard]] TWindowMenu* GetWindowMenu() const { return FMenu; }
-    void SetWindowMenu(TWindowMenu* value);
+    [[nodiscard]] TWindowMenu* GetMenu() const { return FMenu; }
+    void SetMenu(TWindowMenu* value);
     /// Opacity of the whole window: 255 (solid) to 0.
     [[nodiscard]] bool GetAlphaBlend() const { return FAlphaBlend; }
     void SetAlphaBlend(bool value);
@@ -112,6 +112,9 @@ public:
     /// The designer that works on the form; not owned.
     void SetDesignHook(TDesignHook* value) { FDesigner = value; }
 
+    /// After the controls come the components that the form owns and that stand in no other one.
+    void GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root) override;
+
     [[nodiscard]] bool IsClientSizeStored() const { return true; }
     [[nodiscard]] bool IsIconStored() const;
 
@@ -133,6 +136,7 @@ protected:
     void WndProc(TMessage& message) override;
     void Dispatch(TMessage& message) override;
     void Notification(TComponent* component, TOperation operation) override;
+    void DefineProperties(TFiler& filer) override;
     void Loaded() override;
     void BeforeDestruction() override;
     void CreateParams(TCreateParams& params) override;

@@ -1,6 +1,7 @@
 #include "platform/vcl/forms/Form.h"
 
 #include "platform/vcl/controls/PublishedRows.h"
+#include "platform/vcl/controls/WindowMenu.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/Icon.h"
 
@@ -24,6 +25,7 @@ const TMetaClass& TForm::StaticClass() {
             .Property(L"AlphaBlend", &C::GetAlphaBlend, &C::SetAlphaBlend, false)
             .Property(L"AlphaBlendValue", &C::GetAlphaBlendValue, &C::SetAlphaBlendValue, 255)
             .Range(0, 255)
+            .Property(L"AutoScroll", &C::GetAutoScroll, &C::SetAutoScroll, false)
             .Property(L"AutoSize", &C::GetAutoSize, &C::SetAutoSize, false)
             .Property(L"BorderIcons", &C::GetBorderIcons, &C::SetBorderIcons,
                       TBorderIcons{biSystemMenu, biMinimize, biMaximize})
@@ -36,15 +38,18 @@ const TMetaClass& TForm::StaticClass() {
             .Property(L"Enabled", &C::GetEnabled, &C::SetEnabled, true)
             .Property(L"Font", &C::GetFont, &C::SetFont)
             .Property(L"FormStyle", &C::GetFormStyle, &C::SetFormStyle, fsNormal)
+            .Property(L"HorzScrollBar", &C::GetHorzScrollBar, &C::SetHorzScrollBar)
             .Property(L"Icon", &C::GetIcon, &C::SetIcon)
             .Stored(&C::IsIconStored)
             .Property(L"KeyPreview", &C::GetKeyPreview, &C::SetKeyPreview, false)
+            .Property(L"Menu", &C::GetMenu, &C::SetMenu)
             .Property(L"PixelsPerInch", &C::GetPixelsPerInch, &C::SetPixelsPerInch)
             .Property(L"PopupMenu", &C::GetPopupMenu, &C::SetPopupMenu)
             .Property(L"PopupMode", &C::GetPopupMode, &C::SetPopupMode, pmNone)
             .Property(L"PopupParent", &C::GetPopupParent, &C::SetPopupParent)
             .Property(L"Position", &C::GetPosition, &C::SetPosition, poDesigned)
             .Property(L"ShowHint", &C::GetShowHint, &C::SetShowHint, false)
+            .Property(L"VertScrollBar", &C::GetVertScrollBar, &C::SetVertScrollBar)
             .Property(L"WindowState", &C::GetWindowState, &C::SetWindowState, wsNormal)
             .Property(L"Visible", &C::GetVisible, &C::SetVisible, false)
             .With(MouseRows)
@@ -55,6 +60,8 @@ const TMetaClass& TForm::StaticClass() {
             .Event(L"OnCreate", &C::OnCreate)
             .Event(L"OnDeactivate", &C::OnDeactivate)
             .Event(L"OnDestroy", &C::OnDestroy)
+            .Event(L"OnDragDrop", &C::OnDragDrop)
+            .Event(L"OnDragOver", &C::OnDragOver)
             .Event(L"OnHide", &C::OnHide)
             .Event(L"OnKeyDown", &C::OnKeyDown)
             .Event(L"OnKeyPress", &C::OnKeyPress)

@@ -90,7 +90,7 @@ void TCustomForm::SetPopupParent(TCustomForm* value) {
     UpdateOwnerWindow();
 }
 
-void TCustomForm::SetWindowMenu(TWindowMenu* value) {
+void TCustomForm::SetMenu(TWindowMenu* value) {
     if (value == FMenu) return;
     if (FMenu) {
         FMenu->RemoveFreeNotification(this);
@@ -186,7 +186,7 @@ void TCustomForm::ApplyWindowMenu() {
     if (!HandleAllocated() || GetParent() || FBorderStyle == bsDialog) return;
     const HMENU menu = FMenu && !IsInState(csDesigning) ? FMenu->GetMenuHandle() : nullptr;
     if (::GetMenu(WindowHandle()) != menu) ::SetMenu(WindowHandle(), menu);
-    if (FMenu) FMenu->SetWindowHandle(menu ? WindowHandle() : nullptr);
+    if (FMenu) FMenu->SetWindowHandle(IsInState(csDesigning) ? nullptr : WindowHandle());
 }
 
 void TCustomForm::ApplyAlphaBlend() {
@@ -315,6 +315,13 @@ void TCustomForm::WmSysCommand(TMessage& message) {
     const TLifeGuard guard(*this);
     const bool isMain = Application().GetMainForm() == this;
     const WPARAM command = message.WParam & 0xFFF0;
+    // A bar of menus that is a control stands in for the window's own.
+    if (command == SC_KEYMENU && message.LParam != VK_SPACE && !::GetMenu(WindowHandle()) &&
+        Perform(CM_APPSYSCOMMAND, message.WParam, message.LParam) != 0) {
+        message.Result = 0;
+        return;
+    }
+    if (!guard.IsAlive()) return;
     const bool wasIconic = ::IsIconic(WindowHandle()) != FALSE;
     DefaultHandler(message);
     if (!guard.IsAlive() || !isMain || !HandleAllocated()) return;

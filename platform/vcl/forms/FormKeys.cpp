@@ -1,3 +1,4 @@
+#include "platform/vcl/actions/ActionList.h"
 #include "platform/vcl/controls/BasicAction.h"
 #include "platform/vcl/controls/WindowMenu.h"
 #include "platform/vcl/forms/CustomForm.h"
@@ -45,7 +46,13 @@ bool TCustomForm::IsShortCut(TMessage& message) {
     bool handled = false;
     OnShortCut(message, handled);
     if (handled || !guard.IsAlive()) return true;
-    return FMenu && GetEnabled() && FMenu->IsShortCut(message);
+    if (!GetEnabled()) return false;
+    if (FMenu && FMenu->IsShortCut(message)) return true;
+    for (int i = 0; guard.IsAlive() && i < GetComponentCount(); ++i) {
+        auto* list = dynamic_cast<TCustomActionList*>(GetComponent(i));
+        if (list && list->IsShortCut(message)) return true;
+    }
+    return !guard.IsAlive();
 }
 
 bool TCustomForm::OfferToMenu(TMessage& message) {

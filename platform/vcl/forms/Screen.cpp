@@ -1,6 +1,7 @@
 #include "platform/vcl/forms/Screen.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/controls/WinControl.h"
@@ -9,6 +10,7 @@
 #include "platform/vcl/forms/CustomForm.h"
 #include "platform/vcl/graphics/DeviceContexts.h"
 #include "platform/vcl/graphics/Font.h"
+#include "platform/vcl/streaming/GlobalComponents.h"
 
 namespace vcl {
 namespace {
@@ -25,6 +27,14 @@ int CALLBACK AddFont(const LOGFONTW* font, const TEXTMETRICW*, DWORD, LPARAM lis
     return 1;
 }
 
+/// Lets form files name the components of all forms of the program.
+TComponent* FindForm(StringView name) {
+    for (TCustomForm* form : Screen().Forms()) {
+        if (SameText(form->GetName(), name)) return form;
+    }
+    return nullptr;
+}
+
 }  // namespace
 
 const TMetaClass& TScreen::StaticClass() {
@@ -32,9 +42,13 @@ const TMetaClass& TScreen::StaticClass() {
     return meta;
 }
 
-TScreen::TScreen() : TComponent(nullptr) {}
+TScreen::TScreen() : TComponent(nullptr) {
+    RegisterFindGlobalComponent(&FindForm);
+}
 
-TScreen::~TScreen() = default;
+TScreen::~TScreen() {
+    UnRegisterFindGlobalComponent(&FindForm);
+}
 
 // --- measures
 
@@ -166,21 +180,22 @@ void TScreen::ApplyCursor() const {
 
 namespace {
 
-std::unique_ptr<TScreen>& Instance() {
-    static std::unique_ptr<TScreen> instance;
+/// Freed by `DoneScreen`, not by itself, like the application.
+TScreen*& Instance() {
+    static TScreen* instance = nullptr;
     return instance;
 }
 
 }  // namespace
 
 TScreen& Screen() {
-    std::unique_ptr<TScreen>& instance = Instance();
-    if (!instance) instance.reset(new TScreen);
+    TScreen*& instance = Instance();
+    if (!instance) instance = new TScreen;
     return *instance;
 }
 
 void DoneScreen() {
-    Instance().reset();
+    delete std::exchange(Instance(), nullptr);
 }
 
 }  // namespace vcl

@@ -50,7 +50,11 @@ void TBitmap::Assign(const TPersistent* source) {
         return;
     }
     if (bitmap->FCanvas) bitmap->FCanvas->Detach();
-    TakeImage(bitmap->FImage, bitmap->FFormat);
+    const bool isPart = bitmap->GetFirstRow() != 0;
+    TakeImage(
+        isPart ? bitmap->FImage->Converted(bitmap->FWidth, bitmap->FHeight, bitmap->FImage->Format(), clWhite)
+               : bitmap->FImage,
+        bitmap->FFormat);
     FWidth = bitmap->FWidth;
     FHeight = bitmap->FHeight;
     FTransparentMode = bitmap->FTransparentMode;
@@ -115,7 +119,18 @@ void TBitmap::SetMonochrome(bool value) {
 
 // --- Memory
 
+int TBitmap::GetFirstRow() const {
+    return FImage ? FImage->FirstRow() : 0;
+}
+
+void TBitmap::SetFirstRow(int value) {
+    if (!FImage || value == FImage->FirstRow()) return;
+    Unshare();
+    FImage->SetFirstRow(value);
+}
+
 const void* TBitmap::ScanLine(int row) const {
+    row -= GetFirstRow();
     if (!FImage || row < 0 || row >= FHeight) throw EInvalidGraphicOperation(L"Scan line index out of range");
     return FImage->Row(row);
 }

@@ -112,6 +112,17 @@ public:
     [[nodiscard]] std::vector<std::byte> SaveToBytes() const override;
     [[nodiscard]] std::unique_ptr<TGraphic> NewOfKind() const override;
 
+    /// The row of a larger picture that the bitmap's top row stands for, 0 in most bitmaps. Drawing,
+    /// `ScanLine` and copies from it count rows from there, the views do not. Bitmaps that are assigned from
+    /// it get the rows alone.
+    [[nodiscard]] int GetFirstRow() const;
+    /// How many rows there are in memory.
+    [[nodiscard]] int GetRowCount() const { return FHeight; }
+
+protected:
+    void SetFirstRow(int value);
+    [[nodiscard]] bool HasLengthInForms() const override { return true; }
+
 private:
     friend class TBitmapCanvas;
 

@@ -43,9 +43,13 @@ std::optional<TDirectBits> TBitmapCanvas::DirectBits() {
     POINT origin{};
     TRect clip;
     if (::GetMapMode(dc) != MM_TEXT || ::GetClipBox(dc, clip.AsRect()) == COMPLEXREGION) return std::nullopt;
-    if (!::GetViewportOrgEx(dc, &origin) || origin.x || origin.y) return std::nullopt;
     if (!::GetWindowOrgEx(dc, &origin) || origin.x || origin.y) return std::nullopt;
-    return TDirectBits{FBitmap.WriteBits(), clip};
+    if (!::GetViewportOrgEx(dc, &origin)) return std::nullopt;
+    // The clip rectangle counts from the origin, so the view has to as well; nothing outside the rectangle is
+    // ever touched.
+    TBitmapBits bits = FBitmap.WriteBits();
+    bits.Data += origin.y * bits.Stride + std::ptrdiff_t{origin.x} * bits.BytesPerPixel;
+    return TDirectBits{bits, clip};
 }
 
 }  // namespace vcl

@@ -170,7 +170,14 @@ HDC TBitmapImage::OpenDC() {
     FOpenPlace = open.begin();
     FDC = std::move(dc);
     FOldBitmap = ::SelectObject(FDC.Get(), FHandle.Get());
+    if (FFirstRow) ::SetViewportOrgEx(FDC.Get(), 0, -FFirstRow, nullptr);
     return FDC.Get();
+}
+
+void TBitmapImage::SetFirstRow(int value) {
+    if (value == FFirstRow) return;
+    FFirstRow = value;
+    if (FDC) ::SetViewportOrgEx(FDC.Get(), 0, -FFirstRow, nullptr);
 }
 
 void TBitmapImage::CloseDC() {

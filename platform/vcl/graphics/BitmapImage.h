@@ -55,6 +55,10 @@ public:
     /// The device context with the image selected, opened on first use. Only a limited number is open in the
     /// process; the one not asked for longest is closed when there are too many.
     [[nodiscard]] HDC OpenDC();
+    /// The row, in coordinates of the device context, at which the top row stands; 0 at first. A context that
+    /// is open moves along.
+    [[nodiscard]] int FirstRow() const { return FFirstRow; }
+    void SetFirstRow(int value);
     /// Ends drawing and closes the device context.
     void CloseDC();
     /// The canvas that draws with the device context, or null. It is detached before the context closes.
@@ -94,6 +98,7 @@ private:
     std::uint8_t* FBottomRow = nullptr;
     TMemoryDC FDC;
     HGDIOBJ FOldBitmap = nullptr;
+    int FFirstRow = 0;
     std::list<TBitmapImage*>::iterator FOpenPlace;
     TCanvas* FSurface = nullptr;
     std::unique_ptr<TMaskPair> FMask;

@@ -40,8 +40,8 @@ using enum TFillStyle;
 
 /// Memory of a bitmap that may be written to instead of drawing on its canvas.
 struct TDirectBits {
-    TBitmapBits Bits;
-    TRect Clip;  ///< Where drawing shows, in pixels of the bitmap.
+    TBitmapBits Bits;  ///< Counted as the canvas counts; only what lies in `Clip` may be touched.
+    TRect Clip;        ///< Where drawing shows.
 };
 
 /// A surface to draw on with font, pen and brush. Coordinates are pixels of the surface's device context;
@@ -157,7 +157,7 @@ public:
     /// The rectangle around all that drawing can reach.
     [[nodiscard]] TRect GetClipRect();
     /// The memory under the canvas, where writing to it does the same as drawing: on a bitmap of 24 or 32
-    /// bits without a complex clip region or shifted coordinates. None elsewhere. Write inside of
+    /// bits without a complex clip region or scaled coordinates. None elsewhere. Write inside of
     /// `DrawDirectly`, which announces the change.
     [[nodiscard]] virtual std::optional<TDirectBits> DirectBits() { return std::nullopt; }
 

@@ -1,6 +1,8 @@
 #include "platform/vcl/graphics/Graphic.h"
 
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Filer.h"
 #include "platform/vcl/core/Streams.h"
 
 namespace vcl {
@@ -42,6 +44,37 @@ void TGraphic::LoadFromFile(const String& fileName) {
 void TGraphic::SaveToFile(const String& fileName) const {
     TFileStream file(fileName, fmCreate);
     SaveToStream(file);
+}
+
+void TGraphic::DefineProperties(TFiler& filer) {
+    TPersistent::DefineProperties(filer);
+    const auto* ancestor = dynamic_cast<const TGraphic*>(filer.GetAncestor());
+    const bool differs = ancestor ? SaveToBytes() != ancestor->SaveToBytes() : !GetEmpty();
+    filer.DefineBinaryProperty(
+        L"Data", [this](TStream& stream) { ReadData(stream); },
+        [this](TStream& stream) { WriteData(stream); }, differs);
+}
+
+void TGraphic::ReadData(TStream& stream) {
+    std::int64_t length = stream.GetSize() - stream.GetPosition();
+    if (HasLengthInForms()) {
+        std::uint32_t stated = 0;
+        stream.ReadBuffer(&stated, sizeof stated);
+        if (stated > length - std::int64_t{sizeof stated}) throw EInvalidGraphic(L"The picture is cut off");
+        length = stated;
+    }
+    if (length == 0) return Assign(nullptr);
+    std::vector<std::byte> bytes(static_cast<std::size_t>(length));
+    stream.ReadBuffer(bytes.data(), bytes.size());
+    LoadFromBytes(bytes);
+}
+
+void TGraphic::WriteData(TStream& stream) const {
+    std::vector<std::byte> bytes;
+    if (!GetEmpty()) bytes = SaveToBytes();
+    const auto length = static_cast<std::uint32_t>(bytes.size());
+    if (HasLengthInForms()) stream.WriteBuffer(&length, sizeof length);
+    stream.WriteBuffer(bytes.data(), bytes.size());
 }
 
 void TGraphic::Changed() {

@@ -58,6 +58,15 @@ public:
     virtual void Changed();
 
 protected:
+    friend class TPicture;
+
+    /// The picture's bytes, as `Data`.
+    void DefineProperties(TFiler& filer) override;
+    /// Reads and writes the picture as form files hold it: the bytes of a file of its kind, after their
+    /// length where the kind says so.
+    void ReadData(TStream& stream);
+    void WriteData(TStream& stream) const;
+    [[nodiscard]] virtual bool HasLengthInForms() const { return false; }
     /// Takes over whether another picture is transparent, without telling.
     void TakeTransparent(const TGraphic& source) { FTransparent = source.FTransparent; }
 

@@ -122,10 +122,17 @@ public:
     void UnRegisterChanges(TChangeLink* link);
 
 protected:
+    /// The images and their masks, as `Bitmap`.
+    void DefineProperties(TFiler& filer) override;
     /// Tells the links and raises `OnChange`.
     virtual void Change();
 
 private:
+    // What form files hold (ImageListData.cpp).
+    void ReadData(TStream& stream);
+    void WriteData(TStream& stream) const;
+    [[nodiscard]] bool HasSameImages(const TCustomImageList& other) const;
+
     [[nodiscard]] TRect RectOf(int index) const { return TRect::OfSize(0, index * FHeight, FWidth, FHeight); }
     [[nodiscard]] bool Has(int index) const { return index >= 0 && index < GetCount(); }
     void CheckIndex(int index) const;

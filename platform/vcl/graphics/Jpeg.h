@@ -17,6 +17,7 @@ public:
     [[nodiscard]] std::unique_ptr<TGraphic> NewOfKind() const override;
 
 protected:
+    [[nodiscard]] bool HasLengthInForms() const override { return true; }
     [[nodiscard]] const GUID& ContainerFormat() const override;
     [[nodiscard]] bool HasSignature(std::span<const std::byte> bytes) const override;
     [[nodiscard]] bool IsComplete(std::span<const std::byte> bytes) const override;

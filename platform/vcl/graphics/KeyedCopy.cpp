@@ -11,8 +11,7 @@ bool CopyKeyed(TCanvas& canvas, const TRect& dest, const TConstBitmapBits& sourc
     if (!target || target->Bits.Data == source.Data) return false;
     const TRect area = TRect::OfSize(dest.Left, dest.Top, source.Width, source.Height)
                            .Intersect(dest)
-                           .Intersect(target->Clip)
-                           .Intersect({0, 0, target->Bits.Width, target->Bits.Height});
+                           .Intersect(target->Clip);
     for (int y = area.Top; y < area.Bottom; ++y)
         for (int x = area.Left; x < area.Right; ++x) {
             const TColor color = source.GetColor(x - dest.Left, y - dest.Top);

@@ -2,9 +2,12 @@
 
 #include <map>
 #include <mutex>
+#include <string>
 
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Filer.h"
+#include "platform/vcl/core/Streams.h"
 #include "platform/vcl/graphics/Jpeg.h"
 #include "platform/vcl/graphics/Png.h"
 
@@ -29,6 +32,16 @@ public:
         if (found == FFactories.end())
             throw EInvalidGraphic(Format(L"Unknown picture file extension (.%s)", extension.c_str()));
         return found->second();
+    }
+
+    /// An empty picture of the class of that name; raises EInvalidGraphic for unknown ones.
+    [[nodiscard]] std::unique_ptr<TGraphic> MakeOfClass(StringView name) {
+        const std::lock_guard lock(FMutex);
+        for (const auto& [extension, factory] : FFactories) {
+            auto made = factory();
+            if (SameText(made->ClassName(), name)) return made;
+        }
+        throw EInvalidGraphic(Format(L"Unknown class of pictures: %s", name));
     }
 
 private:
@@ -75,6 +88,43 @@ void TPicture::AssignTo(TPersistent* dest) const {
         dest->Assign(FGraphic.get());
     else
         TPersistent::AssignTo(dest);
+}
+
+void TPicture::DefineProperties(TFiler& filer) {
+    TPersistent::DefineProperties(filer);
+    const auto* ancestor = dynamic_cast<const TPicture*>(filer.GetAncestor());
+    filer.DefineBinaryProperty(
+        L"Data", [this](TStream& stream) { ReadData(stream); },
+        [this](TStream& stream) { WriteData(stream); },
+        ancestor ? !IsSameAs(*ancestor) : FGraphic != nullptr);
+}
+
+bool TPicture::IsSameAs(const TPicture& other) const {
+    if (!FGraphic || !other.FGraphic) return FGraphic == other.FGraphic;
+    return FGraphic->ClassName() == other.FGraphic->ClassName() &&
+           FGraphic->SaveToBytes() == other.FGraphic->SaveToBytes();
+}
+
+void TPicture::ReadData(TStream& stream) {
+    std::uint8_t length = 0;
+    stream.ReadBuffer(&length, sizeof length);
+    std::string name(length, '\0');
+    stream.ReadBuffer(name.data(), name.size());
+    std::unique_ptr<TGraphic> graphic;
+    if (!name.empty()) {
+        graphic = TFileFormats::Instance().MakeOfClass(FromUtf8(name));
+        graphic->ReadData(stream);
+    }
+    Take(std::move(graphic));
+    GraphicChanged(this);
+}
+
+void TPicture::WriteData(TStream& stream) const {
+    const std::string name = FGraphic ? ToUtf8(FGraphic->ClassName()) : std::string();
+    const auto length = static_cast<std::uint8_t>(name.size());
+    stream.WriteBuffer(&length, sizeof length);
+    stream.WriteBuffer(name.data(), name.size());
+    if (FGraphic) FGraphic->WriteData(stream);
 }
 
 void TPicture::SetGraphic(const TGraphic* value) {

@@ -49,9 +49,14 @@ public:
     static void RegisterFileFormat(const String& extension, Factory factory);
 
 protected:
+    /// The class of what the picture holds and its bytes, as `Data`.
+    void DefineProperties(TFiler& filer) override;
     void AssignTo(TPersistent* dest) const override;
 
 private:
+    void ReadData(TStream& stream);
+    void WriteData(TStream& stream) const;
+    [[nodiscard]] bool IsSameAs(const TPicture& other) const;
     void Take(std::unique_ptr<TGraphic> graphic);
     void GraphicChanged(TObject* sender);
     template <class T>

@@ -128,7 +128,9 @@ const TMetaClass& TButton::StaticClass() {
             .Property(L"ModalResult", &C::GetModalResult, &C::SetModalResult, mrNone)
             .Identifiers(ModalResultIdentifiers())
             .Property(L"WordWrap", &C::GetWordWrap, &C::SetWordWrap, false)
+            .With(DragRows)
             .With(MouseRows)
+            .With(DragEventRows)
             .With(KeyRows);
     return meta;
 }

@@ -88,7 +88,9 @@ const TMetaClass& TCheckBox::StaticClass() {
             .NotStored()
             .Property(L"State", &C::GetState, &C::SetState, cbUnchecked)
             .Property(L"WordWrap", &C::GetWordWrap, &C::SetWordWrap, false)
+            .With(DragRows)
             .With(MouseRows)
+            .With(DragEventRows)
             .With(KeyRows);
     return meta;
 }

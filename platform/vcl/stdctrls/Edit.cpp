@@ -302,7 +302,9 @@ const TMetaClass& TEdit::StaticClass() {
             .Property(L"ReadOnly", &C::GetReadOnly, &C::SetReadOnly, false)
             .Property(L"Text", &C::GetText, &C::SetText)
             .Property(L"TextHint", &C::GetTextHint, &C::SetTextHint, String())
+            .With(DragRows)
             .With(MouseRows)
+            .With(DragEventRows)
             .With(KeyRows)
             .Event(L"OnChange", &C::OnChange);
     return meta;

@@ -22,7 +22,9 @@ const TMetaClass& TImage::StaticClass() {
             .Property(L"Proportional", &C::GetProportional, &C::SetProportional, false)
             .Property(L"Stretch", &C::GetStretch, &C::SetStretch, false)
             .Property(L"Transparent", &C::GetTransparent, &C::SetTransparent, false)
-            .With(MouseRows);
+            .With(DragRows)
+            .With(MouseRows)
+            .With(DragEventRows);
     return meta;
 }
 

@@ -141,7 +141,8 @@ TRect TCustomLabel::NeededRect(int width) {
 }
 
 unsigned TCustomLabel::TextFlags() const {
-    return DT_EXPANDTABS | AlignmentToDrawText(FAlignment) | (FWordWrap ? unsigned{DT_WORDBREAK} : 0U);
+    return DT_EXPANDTABS | AlignmentToDrawText(FAlignment) | (FWordWrap ? unsigned{DT_WORDBREAK} : 0U) |
+           (FShowAccelChar ? 0U : unsigned{DT_NOPREFIX});
 }
 
 void TCustomLabel::DoDrawText(TRect& rect, unsigned flags) {
@@ -149,7 +150,6 @@ void TCustomLabel::DoDrawText(TRect& rect, unsigned flags) {
     const bool measuring = (flags & DT_CALCRECT) != 0;
     // A label without text keeps the height of a line.
     if (measuring && (text.empty() || (FShowAccelChar && text == L"&"))) text += L' ';
-    if (!FShowAccelChar) flags |= DT_NOPREFIX;
     // What is measured for dots would be cut already.
     if (!measuring) flags |= EllipsisToDrawText(FEllipsisPosition);
     TCanvas& canvas = GetCanvas();
@@ -194,7 +194,9 @@ const TMetaClass& TLabel::StaticClass() {
             .Property(L"ShowAccelChar", &C::GetShowAccelChar, &C::SetShowAccelChar, true)
             .Property(L"Transparent", &C::GetTransparent, &C::SetTransparent, true)
             .Property(L"WordWrap", &C::GetWordWrap, &C::SetWordWrap, false)
-            .With(MouseRows);
+            .With(DragRows)
+            .With(MouseRows)
+            .With(DragEventRows);
     return meta;
 }
 

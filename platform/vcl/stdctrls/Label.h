@@ -46,10 +46,12 @@ protected:
     [[nodiscard]] virtual String GetLabelText() const { return GetCaption(); }
     /// Draws the text into the rectangle, or with DT_CALCRECT in the flags measures it.
     virtual void DoDrawText(TRect& rect, unsigned flags);
+    /// The space that the label needs at its present width, from (0, 0).
+    [[nodiscard]] virtual TRect NeededRect(int width);
+    /// The flags of the Windows DrawText function that the properties stand for, but for dots.
+    [[nodiscard]] unsigned TextFlags() const;
 
 private:
-    [[nodiscard]] unsigned TextFlags() const;
-    [[nodiscard]] TRect NeededRect(int width);
     void FollowText();
     [[nodiscard]] bool IsAccelFor(const TMessage& message) const;
 

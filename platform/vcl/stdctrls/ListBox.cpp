@@ -294,7 +294,9 @@ const TMetaClass& TListBox::StaticClass() {
             .Property(L"MultiSelect", &C::GetMultiSelect, &C::SetMultiSelect, false)
             .Property(L"Sorted", &C::GetSorted, &C::SetSorted, false)
             .Property(L"ItemIndex", &C::GetItemIndex, &C::SetItemIndex, -1)
+            .With(DragRows)
             .With(MouseRows)
+            .With(DragEventRows)
             .With(KeyRows);
     return meta;
 }

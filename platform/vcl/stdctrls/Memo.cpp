@@ -25,7 +25,8 @@ public:
     void Put(int index, const String& text) override {
         const TLines lines(FMemo.GetText());
         CheckIndex(index, lines.Count());
-        Replace(lines.Start(index), lines.End(index), text);
+        const bool isLast = static_cast<std::size_t>(index) + 1 == lines.Count();
+        Replace(lines.Start(index), lines.End(index), isLast && lines.EndsOpen() ? Last(text) : text);
     }
     /// Lines have no objects.
     [[nodiscard]] TObject* GetObject(int index) const override {
@@ -39,7 +40,8 @@ public:
         if (static_cast<std::size_t>(index) < lines.Count())
             Replace(lines.Start(index), lines.Start(index), text + String(LineBreak));
         else
-            Replace(lines.Length(), lines.Length(), lines.EndsOpen() ? String(LineBreak) + text : text);
+            Replace(lines.Length(), lines.Length(),
+                    (lines.EndsOpen() ? String(LineBreak) : String()) + Last(text));
     }
     void Delete(int index) override {
         const TLines lines(FMemo.GetText());
@@ -80,6 +82,9 @@ private:
         std::size_t FLength;
         bool FEndsOpen = false;
     };
+
+    /// A last line without text is a line by the break after it only.
+    static String Last(const String& text) { return text.empty() ? String(LineBreak) : text; }
 
     void Replace(std::size_t start, std::size_t end, const String& text) {
         if (FMemo.HandleAllocated()) {
@@ -188,7 +193,9 @@ const TMetaClass& TMemo::StaticClass() {
             .Property(L"WantReturns", &C::GetWantReturns, &C::SetWantReturns, true)
             .Property(L"WantTabs", &C::GetWantTabs, &C::SetWantTabs, false)
             .Property(L"WordWrap", &C::GetWordWrap, &C::SetWordWrap, true)
+            .With(DragRows)
             .With(MouseRows)
+            .With(DragEventRows)
             .With(KeyRows)
             .Event(L"OnChange", &C::OnChange);
     return meta;

@@ -231,7 +231,9 @@ const TMetaClass& TPanel::StaticClass() {
             .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
             .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
             .Property(L"VerticalAlignment", &C::GetVerticalAlignment, &C::SetVerticalAlignment, tlCenter)
+            .With(DragRows)
             .With(MouseRows)
+            .With(DragEventRows)
             .With(ResizeRows)
             .Event(L"OnEnter", &C::OnEnter)
             .Event(L"OnExit", &C::OnExit);

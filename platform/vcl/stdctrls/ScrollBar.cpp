@@ -1,7 +1,6 @@
 #include "platform/vcl/stdctrls/ScrollBar.h"
 
 #include <algorithm>
-#include <array>
 
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -9,8 +8,6 @@
 
 namespace vcl {
 namespace {
-
-constexpr std::array KindNames{L"sbHorizontal", L"sbVertical"};
 
 /// The system's codes (SB_...) come in the same order but for position and tracking.
 TScrollCode ToScrollCode(WORD code) {
@@ -37,10 +34,6 @@ TScrollCode ToScrollCode(WORD code) {
 }
 
 }  // namespace
-
-std::span<const wchar_t* const> TEnumNames<TScrollBarKind>::Names() {
-    return KindNames;
-}
 
 const TMetaClass& TScrollBar::StaticClass() {
     using C = TScrollBar;

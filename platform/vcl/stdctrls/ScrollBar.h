@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/vcl/controls/ControlScrollBar.h"
 #include "platform/vcl/controls/WinControl.h"
 
 namespace vcl {
 
-enum class TScrollBarKind { sbHorizontal, sbVertical };
 /// What the user did: one line or page back or on, dragging and its end, to either end, and that it is over.
 enum class TScrollCode {
     scLineUp,
@@ -17,13 +17,7 @@ enum class TScrollCode {
     scBottom,
     scEndScroll
 };
-using enum TScrollBarKind;
 using enum TScrollCode;
-
-template <>
-struct TEnumNames<TScrollBarKind> {
-    static std::span<const wchar_t* const> Names();
-};
 
 /// Sender, what the user did, and the position that follows, which the handler may change.
 using TScrollEvent = TEvent<void(TObject*, TScrollCode, int&)>;

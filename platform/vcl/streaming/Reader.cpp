@@ -104,7 +104,10 @@ TComponent* TReader::ReadChild(const TFormObject& object, TComponent& parent, TC
             return nullptr;
         }
         if (object.Kind != TFormObjectKind::Inherited) {
-            Try(object.Position, TFormProblemKind::DuplicateName, [&] { component->SetName(object.Name); });
+            Try(object.Position, TFormProblemKind::DuplicateName, [&] {
+                CheckField(object, *component);
+                component->SetName(object.Name);
+            });
             Try(object.Position, TFormProblemKind::Failed, [&] { component->SetParentComponent(&parent); });
         }
     }
@@ -141,6 +144,15 @@ TComponent& TReader::FindInherited(const TFormObject& object, TComponent& lookup
             TFormProblemKind::MissingAncestor, object.Position,
             Format(L"The ancestor's component is a %s, not a %s", component->ClassName(), object.ClassName));
     return *component;
+}
+
+/// Raises when the owner has a field of the component's name that can't hold it.
+void TReader::CheckField(const TFormObject& object, const TComponent& component) const {
+    const TPublishedField* field = component.GetOwner()->ClassType().FindField(object.Name);
+    if (field && !component.InheritsFrom(field->Class()))
+        FPlace.Fail(TFormProblemKind::WrongType, object.Position,
+                    Format(L"%s of %s holds a %s, not a %s", object.Name, component.GetOwner()->ClassName(),
+                           field->Class().ClassName(), component.ClassName()));
 }
 
 const TMetaClass& TReader::ClassOf(const TFormObject& object) {

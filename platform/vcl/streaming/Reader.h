@@ -25,6 +25,9 @@ struct TUnreadProperty {
 /// from the top of the file to its end. References between components are set after that. Then `Loaded` is
 /// called: first that of the root, then those of the others in the order in which they were made.
 ///
+/// A root in design state keeps the names of its events' methods (`TEventBase::MethodName`) instead of
+/// binding them.
+///
 /// When something is wrong, EFormError is raised and what was made so far is freed; of a root that was given
 /// the properties may have changed.
 class TReader {
@@ -82,6 +85,7 @@ private:
     TComponent& MakeOrFind(const TFormObject& object, TComponent& lookupRoot);
     TComponent& Create(const TFormObject& object, TComponent* owner);
     TComponent& FindInherited(const TFormObject& object, TComponent& lookupRoot);
+    void CheckField(const TFormObject& object, const TComponent& component) const;
     [[nodiscard]] const TMetaClass& ClassOf(const TFormObject& object);
     /// Runs a step; what it raises is noted or raised as EFormError. False when something was noted.
     template <class Step>
@@ -109,6 +113,7 @@ private:
     // References (ReaderReferences.cpp).
     void SetReferences();
     void SetReference(const TReference& reference);
+    [[nodiscard]] bool IsUnknown(const TComponent* target, StringView name) const;
     [[nodiscard]] TComponent* FindTarget(const TReference& reference, bool& mayComeLater) const;
 
     const TFormDocument& FDocument;

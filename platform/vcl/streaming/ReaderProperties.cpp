@@ -253,6 +253,7 @@ void TReader::BindEvent(const TPublishedProperty& row, TPersistent& object, cons
     const auto* ident = value.As<TFormIdent>();
     if (!ident) FailType(value, L"the name of a method");
     if (OnFindMethod && OnFindMethod(ident->Name, object, event)) return;
+    if (FRoot->IsInState(csDesigning)) return event.SetMethodName(ident->Name);
 
     const StringView path = ident->Name;
     const std::size_t point = path.rfind(L'.');

@@ -1,6 +1,7 @@
 #include "platform/vcl/streaming/GlobalComponents.h"
 #include "platform/vcl/streaming/PendingReferences.h"
 #include "platform/vcl/streaming/ReaderTry.h"
+#include "platform/vcl/streaming/UnknownComponent.h"
 
 #include <algorithm>
 #include <utility>
@@ -33,12 +34,16 @@ void TReader::SetReference(const TReference& reference) {
     bool mayComeLater = false;
     TComponent* target = FindTarget(reference, mayComeLater);
     if (!target && mayComeLater) return AddPendingReference(reference.Address, reference.Name);
+    const auto keep = [&] {
+        if (reference.Source) FUnread.push_back({reference.Address.Component, *reference.Source});
+    };
     const auto report = [&](String text) {
         TFormProblem problem = reference.Problem;
         problem.Text = std::move(text);
-        if (reference.Source) FUnread.push_back({reference.Address.Component, *reference.Source});
+        keep();
         Report(std::move(problem));
     };
+    if (IsUnknown(target, reference.Name)) return keep();
     if (!target) return report(reference.Problem.Text);
     const TMetaClass* wanted = reference.Address.Property->ObjectClass();
     if (wanted && !target->InheritsFrom(*wanted))
@@ -49,6 +54,17 @@ void TReader::SetReference(const TReference& reference) {
     } catch (const Exception& error) {
         report(error.Message());
     }
+}
+
+/// True for what an object stands for, or holds, that could not be made: its own problem has been noted.
+bool TReader::IsUnknown(const TComponent* target, StringView name) const {
+    if (target) return dynamic_cast<const TUnknownComponent*>(target) != nullptr;
+    const StringView last = name.substr(name.rfind(L'.') + 1);
+    for (int i = 0; i < FRoot->GetComponentCount(); ++i) {
+        const auto* unknown = dynamic_cast<const TUnknownComponent*>(FRoot->GetComponent(i));
+        if (unknown && unknown->GetObject().FindObject(last)) return true;
+    }
+    return false;
 }
 
 TComponent* TReader::FindTarget(const TReference& reference, bool& mayComeLater) const {

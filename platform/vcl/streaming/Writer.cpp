@@ -13,6 +13,11 @@ namespace vcl {
 TFormDocument TWriter::WriteRootComponent(TComponent& root, TComponent* ancestor) {
     FScope = {&root, &root};
     FAncestorScope = {ancestor, ancestor};
+    FUnknown.clear();
+    for (int i = 0; i < root.GetComponentCount(); ++i) {
+        if (const auto* unknown = dynamic_cast<const TUnknownComponent*>(root.GetComponent(i)))
+            FUnknown.push_back(unknown);
+    }
     return {WriteComponent(root, ancestor, true), {}};
 }
 
@@ -99,9 +104,8 @@ std::vector<TComponent*> TWriter::ExpectedOrder(const std::vector<TComponent*>& 
 }
 
 void TWriter::InsertUnknown(TFormObject& object, const TComponent& component) const {
-    for (int i = 0; i < FScope.Root->GetComponentCount(); ++i) {
-        const auto* unknown = dynamic_cast<const TUnknownComponent*>(FScope.Root->GetComponent(i));
-        if (!unknown || unknown->GetParentComponent() != &component) continue;
+    for (const TUnknownComponent* unknown : FUnknown) {
+        if (unknown->GetParentComponent() != &component) continue;
         const auto place = std::min(static_cast<std::size_t>(unknown->GetIndex()), object.Children.size());
         object.Children.insert(object.Children.begin() + static_cast<std::ptrdiff_t>(place),
                                unknown->GetObject());

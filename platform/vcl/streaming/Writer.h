@@ -11,6 +11,7 @@
 namespace vcl {
 
 class TCollection;
+class TUnknownComponent;
 struct TUnreadProperty;
 
 /// Writes components to a form document: each with its published properties in the order of their tables,
@@ -66,16 +67,21 @@ private:
     void WriteNested(TProperties& properties, const TSubject& subject);
     void WriteEvent(TProperties& properties, const TSubject& subject) const;
     void WriteSimple(TProperties& properties, const TSubject& subject) const;
-    static void WriteName(TProperties& properties, const TSubject& subject, const String& name,
-                          const String& ancestorName, bool isEmpty);
     void WriteReference(TProperties& properties, const TSubject& subject) const;
     [[nodiscard]] TFormValue CollectionValue(TCollection& collection);
-    [[nodiscard]] String MethodName(TPersistent& object, const TPublishedProperty& row,
-                                    const TScope& scope) const;
+    /// A method as form files name it.
+    struct TMethodName {
+        String Path;  ///< The name of the frame that it belongs to and a point; empty for the form.
+        String Name;
+        bool IsLocal = false;  ///< It belongs to the form or frame that names mean.
+    };
+    [[nodiscard]] TMethodName MethodName(TPersistent& object, const TPublishedProperty& row,
+                                         const TScope& scope) const;
     [[nodiscard]] static String ReferenceName(TPersistent& object, const TPublishedProperty& row,
                                               const TScope& scope);
     [[nodiscard]] const std::vector<const TPublishedProperty*>& RowsOf(const TMetaClass& meta);
 
+    std::vector<const TUnknownComponent*> FUnknown;  ///< Those that the root owns.
     TScope FScope{};
     TScope FAncestorScope{};
     std::unordered_map<const TMetaClass*, std::vector<const TPublishedProperty*>> FRows;

@@ -161,7 +161,8 @@ void TWriter::WriteNested(TProperties& properties, const TSubject& subject) {
     if (!nested) return;
     TPersistent* ancestor = subject.AncestorRow ? ObjectIn(*subject.AncestorRow, *subject.Ancestor) : nullptr;
     auto* collection = dynamic_cast<TCollection*>(nested);
-    if (!collection) return WriteProperties(properties, *nested, ancestor, subject.Name + L'.');
+    WriteProperties(properties, *nested, ancestor, subject.Name + L'.');
+    if (!collection) return;
 
     TFormValue value = CollectionValue(*collection);
     bool same = collection->GetCount() == 0;
@@ -182,43 +183,46 @@ TFormValue TWriter::CollectionValue(TCollection& collection) {
     return {std::move(value), {}};
 }
 
-/// Writes what a name stands for; the name of nothing is empty.
-void TWriter::WriteName(TProperties& properties, const TSubject& subject, const String& name,
-                        const String& ancestorName, bool isEmpty) {
-    if (SameText(name, ancestorName)) return;
-    if (!name.empty())
-        properties.push_back({subject.Name, {TFormIdent{name}, {}}, {}});
-    else if (isEmpty)
+void TWriter::WriteEvent(TProperties& properties, const TSubject& subject) const {
+    const TMethodName method = MethodName(subject.Object, subject.Row, FScope);
+    const TMethodName inherited = subject.AncestorRow
+                                      ? MethodName(*subject.Ancestor, *subject.AncestorRow, FAncestorScope)
+                                      : TMethodName();
+    const bool samePath = (method.IsLocal && inherited.IsLocal) || SameText(method.Path, inherited.Path);
+    if (samePath && SameText(method.Name, inherited.Name)) return;
+    if (!method.Name.empty())
+        properties.push_back({subject.Name, {TFormIdent{method.Path + method.Name}, {}}, {}});
+    else if (!subject.Row.Event(subject.Object)->IsAssigned())
         properties.push_back({subject.Name, {TFormNil(), {}}, {}});
 }
 
-void TWriter::WriteEvent(TProperties& properties, const TSubject& subject) const {
-    const String inherited =
-        subject.AncestorRow ? MethodName(*subject.Ancestor, *subject.AncestorRow, FAncestorScope) : String();
-    WriteName(properties, subject, MethodName(subject.Object, subject.Row, FScope), inherited,
-              !subject.Row.Event(subject.Object)->IsAssigned());
-}
-
 void TWriter::WriteReference(TProperties& properties, const TSubject& subject) const {
+    const String target = ReferenceName(subject.Object, subject.Row, FScope);
     const String inherited = subject.AncestorRow
                                  ? ReferenceName(*subject.Ancestor, *subject.AncestorRow, FAncestorScope)
                                  : String();
-    WriteName(properties, subject, ReferenceName(subject.Object, subject.Row, FScope), inherited,
-              !ObjectIn(subject.Row, subject.Object));
+    if (SameText(target, inherited)) return;
+    if (!target.empty())
+        properties.push_back({subject.Name, {TFormIdent{target}, {}}, {}});
+    else if (!ObjectIn(subject.Row, subject.Object))
+        properties.push_back({subject.Name, {TFormNil(), {}}, {}});
 }
 
-String TWriter::MethodName(TPersistent& object, const TPublishedProperty& row, const TScope& scope) const {
+TWriter::TMethodName TWriter::MethodName(TPersistent& object, const TPublishedProperty& row,
+                                         const TScope& scope) const {
     const TEventBase& event = *row.Event(object);
+    if (const String* name = event.MethodName()) return {{}, *name, false};
     if (!event.IsAssigned()) return {};
     if (OnFindMethodName) {
-        if (String name = OnFindMethodName(event, row); !name.empty()) return name;
+        if (String name = OnFindMethodName(event, row); !name.empty()) return {{}, name, false};
     }
-    if (const TPublishedMethod* method = BoundMethod(*scope.Root, event, row)) return method->Name;
+    if (const TPublishedMethod* method = BoundMethod(*scope.Root, event, row))
+        return {{}, method->Name, scope.Root == scope.LookupRoot};
     for (int i = 0; i < scope.Root->GetComponentCount(); ++i) {
         TComponent& frame = *scope.Root->GetComponent(i);
-        if (!frame.IsInState(csInline)) continue;
+        if (!frame.IsInState(csInline) || frame.GetName().empty()) continue;
         if (const TPublishedMethod* method = BoundMethod(frame, event, row))
-            return frame.GetName() + L'.' + method->Name;
+            return {frame.GetName() + L'.', method->Name, &frame == scope.LookupRoot};
     }
     return {};
 }

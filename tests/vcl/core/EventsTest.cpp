@@ -201,5 +201,25 @@ TEST_F(EventsTest, RaisingAllocatesNothing) {
     EXPECT_EQ(inside, before);
 }
 
+TEST_F(EventsTest, RemembersTheNameOfAMethodInsteadOfTheMethod) {
+    TNumberEvent event = [](int) { FAIL() << "still bound"; };
+    event.SetMethodName(L"ButtonClick");
+    event(1);
+    EXPECT_FALSE(event.IsAssigned());
+    ASSERT_TRUE(event.MethodName());
+    EXPECT_EQ(*event.MethodName(), L"ButtonClick");
+
+    TNumberEvent other;
+    EXPECT_FALSE(other == event);
+    other.SetMethodName(L"ButtonClick");
+    EXPECT_TRUE(other == event);
+    other.SetMethodName(L"OtherClick");
+    EXPECT_FALSE(other == event);
+    other.SetMethodName(L"");
+    EXPECT_FALSE(other.MethodName());
+    event = [](int) {};
+    EXPECT_FALSE(event.MethodName()) << "a bound event has no name";
+}
+
 }  // namespace
 }  // namespace vcl

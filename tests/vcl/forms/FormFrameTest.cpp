@@ -244,7 +244,7 @@ public:
 
 TEST_F(FormFrameTest, AMenuStandsInTheWindowAndGetsItsCommands) {
     TProbeMenu menu(nullptr);
-    Window->SetWindowMenu(&menu);
+    Window->SetMenu(&menu);
     Window->SetClientHeight(100);
     Window->Show();
     EXPECT_EQ(GetMenu(Window->WindowHandle()), menu.Menu);
@@ -254,7 +254,7 @@ TEST_F(FormFrameTest, AMenuStandsInTheWindowAndGetsItsCommands) {
     EXPECT_EQ(menu.Command, 77);
     Window->RecreateWnd();
     EXPECT_EQ(GetMenu(Window->WindowHandle()), menu.Menu);
-    Window->SetWindowMenu(nullptr);
+    Window->SetMenu(nullptr);
     EXPECT_EQ(GetMenu(Window->WindowHandle()), nullptr);
     EXPECT_EQ(menu.Window, nullptr);
 }
@@ -263,17 +263,17 @@ TEST_F(FormFrameTest, AMenuOutlivesTheFormAndTheFormTheMenu) {
     TProbeMenu menu(nullptr);
     {
         TForm form(nullptr);
-        form.SetWindowMenu(&menu);
+        form.SetMenu(&menu);
         form.Show();
     }
     EXPECT_TRUE(IsMenu(menu.Menu));
     EXPECT_EQ(menu.Window, nullptr);
     {
         TProbeMenu second(nullptr);
-        Window->SetWindowMenu(&second);
+        Window->SetMenu(&second);
         Window->Show();
     }
-    EXPECT_EQ(Window->GetWindowMenu(), nullptr);
+    EXPECT_EQ(Window->GetMenu(), nullptr);
     EXPECT_EQ(GetMenu(Window->WindowHandle()), nullptr);
 }
 

@@ -187,7 +187,17 @@ TEST_F(CanvasCopyTest, MemoryUnderTheCanvasIsReachedWhereItIsPlain) {
     }
     {
         const TCanvasStateScope scope(Canvas());
-        SetViewportOrgEx(Canvas().GetHandle(), 1, 0, nullptr);
+        SetViewportOrgEx(Canvas().GetHandle(), 1, -2, nullptr);
+        const auto shifted = Canvas().DirectBits();
+        ASSERT_TRUE(shifted) << "counted as the canvas counts";
+        EXPECT_EQ(shifted->Clip, TRect(-1, 2, 19, 14));
+        shifted->Bits.SetColor(6, 9, clBlue);
+        EXPECT_EQ(Canvas().GetPixel(6, 9), clBlue);
+    }
+    EXPECT_EQ(At(7, 7), clBlue);
+    {
+        const TCanvasStateScope scope(Canvas());
+        SetMapMode(Canvas().GetHandle(), MM_ISOTROPIC);
         EXPECT_FALSE(Canvas().DirectBits());
     }
     {

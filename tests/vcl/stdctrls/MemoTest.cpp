@@ -36,6 +36,23 @@ TEST_F(MemoTest, LinesAreAddedInsertedReplacedAndDeleted) {
     ExpectText([](TStrings& lines) { lines.Add(L"a"), lines.Add(L"b"), lines.Clear(); }, L"");
 }
 
+TEST_F(MemoTest, LinesWithoutTextAreLines) {
+    for (const bool shown : {false, true}) {
+        TMemo memo(nullptr);
+        if (shown) memo.SetParent(&Form());
+        TStrings& lines = memo.GetLines();
+        for (const wchar_t* line : {L"", L"", L"one", L"", L"two", L""})
+            lines.Add(line);
+        EXPECT_EQ(memo.GetText(), L"\r\n\r\none\r\n\r\ntwo\r\n\r\n");
+        ASSERT_EQ(lines.GetCount(), 6);
+        EXPECT_EQ(lines.Get(5), L"");
+        lines.Add(L"three");
+        EXPECT_EQ(lines.GetCount(), 7);
+        lines.Put(6, L"");
+        EXPECT_EQ(lines.GetCount(), 7);
+    }
+}
+
 TEST_F(MemoTest, LinesDoNotCountWrapping) {
     Memo->SetText(L"a very long line that has to be wrapped in so small a window\r\nsecond");
     EXPECT_EQ(Memo->GetLines().GetCount(), 2);

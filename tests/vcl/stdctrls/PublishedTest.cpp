@@ -10,6 +10,7 @@
 #include "platform/vcl/stdctrls/Memo.h"
 #include "platform/vcl/stdctrls/Panel.h"
 #include "platform/vcl/stdctrls/ScrollBar.h"
+#include "platform/vcl/stdctrls/Splitter.h"
 #include "platform/vcl/stdctrls/Timer.h"
 #include "platform/vcl/stdctrls/TrackBar.h"
 #include "tests/support/FormTest.h"
@@ -20,11 +21,11 @@ namespace {
 using namespace vcl;
 
 std::vector<const TMetaClass*> PublishedClasses() {
-    return {&TBevel::StaticClass(),    &TButton::StaticClass(),  &TCheckBox::StaticClass(),
-            &TEdit::StaticClass(),     &TForm::StaticClass(),    &TImage::StaticClass(),
-            &TLabel::StaticClass(),    &TListBox::StaticClass(), &TMemo::StaticClass(),
-            &TPanel::StaticClass(),    &TTimer::StaticClass(),   &TTrackBar::StaticClass(),
-            &TScrollBar::StaticClass()};
+    return {&TBevel::StaticClass(),     &TButton::StaticClass(),  &TCheckBox::StaticClass(),
+            &TEdit::StaticClass(),      &TForm::StaticClass(),    &TImage::StaticClass(),
+            &TLabel::StaticClass(),     &TListBox::StaticClass(), &TMemo::StaticClass(),
+            &TPanel::StaticClass(),     &TTimer::StaticClass(),   &TTrackBar::StaticClass(),
+            &TScrollBar::StaticClass(), &TSplitter::StaticClass()};
 }
 
 /// Tests that hold for whatever a class publishes.

@@ -1,5 +1,7 @@
 #include "platform/vcl/stdctrls/ScrollBar.h"
 
+#include <commctrl.h>
+
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/stdctrls/TrackBar.h"
 #include "tests/support/FormTest.h"

@@ -47,15 +47,16 @@ TEST_F(TimerTest, StandsStillWhileDisabledOrWithoutInterval) {
 }
 
 TEST_F(TimerTest, TheLedgerCountsRunningTimers) {
-    if (!TLedger::IsActive()) GTEST_SKIP() << "this build does not count";
+    // Nothing in a build that does not count.
+    const long one = TLedger::IsActive() ? 1 : 0;
     const long before = RunningTimers();
     const auto timer = NewTimer(1000);
-    EXPECT_EQ(RunningTimers(), before + 1);
+    EXPECT_EQ(RunningTimers(), before + one);
     timer->SetEnabled(false);
     EXPECT_EQ(RunningTimers(), before);
     timer->SetEnabled(true);
     timer->SetInterval(500);
-    EXPECT_EQ(RunningTimers(), before + 1);
+    EXPECT_EQ(RunningTimers(), before + one);
 }
 
 TEST_F(TimerTest, AnErrorInTheEventGoesToTheApplication) {

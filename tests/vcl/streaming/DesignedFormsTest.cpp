@@ -173,6 +173,21 @@ TEST_F(DesignedFormsTest, AFrameIsWrittenAsWhatDiffersFromItsClass) {
     EXPECT_EQ(FormToText(TWriter().WriteRootComponent(Read(FromUtf8(text)))), text);
 }
 
+TEST_F(DesignedFormsTest, AFrameKeepsItsOwnHandlersUnwritten) {
+    const std::string text =
+        "object Form: TSampleForm\r\n"
+        "  Always = ''\r\n"
+        "  inline TSampleFrame\r\n"
+        "  end\r\n"
+        "  inline Frame2: TSampleFrame\r\n"
+        "    inherited Label: TSample\r\n"
+        "      OnClick = Frame2.FrameClick\r\n"
+        "    end\r\n"
+        "  end\r\n"
+        "end\r\n";
+    EXPECT_EQ(FormToText(TWriter().WriteRootComponent(Read(FromUtf8(text)))), text);
+}
+
 TEST_F(DesignedFormsTest, AnInheritedFormIsWrittenAsWhatDiffersFromItsAncestor) {
     TSampleDerived form(nullptr);
     TSampleBase ancestor(nullptr);

@@ -1,5 +1,6 @@
 #include "platform/vcl/streaming/FormBinary.h"
 #include "platform/vcl/streaming/Reader.h"
+#include "platform/vcl/streaming/Writer.h"
 #include "tests/vcl/streaming/ReaderFixture.h"
 
 namespace vcl {
@@ -142,6 +143,23 @@ TEST_F(ReaderErrorsTest, AreLocatedByOffsetInBinaryForms) {
         EXPECT_STREQ(error.what(),
                      "Form.dfm(offset 34): Form.Kind: skOval is none of skPlain, skRound, skStar");
     }
+}
+
+TEST_F(ReaderErrorsTest, ReferencesToWhatCouldNotBeMadeAreNoProblemsOfTheirOwn) {
+    Form = std::make_unique<TSampleForm>(nullptr);
+    const auto document = ParseFormText(
+        L"object Form: TSampleForm Partner = A Anyone = B object A: TNobody object B: TSample end end end");
+    TReader reader(document);
+    reader.CollectProblems = true;
+    reader.ReadRootComponent(Form.get());
+    ASSERT_EQ(reader.GetProblems().size(), 1u);
+    EXPECT_EQ(reader.GetProblems()[0].Kind, Kind::UnknownClass);
+    EXPECT_EQ(Form->Partner, nullptr);
+    TWriter writer;
+    writer.UnreadProperties = &reader.GetUnreadProperties();
+    const TFormDocument written = writer.WriteRootComponent(*Form);
+    EXPECT_EQ(*written.Root.FindProperty(L"Partner"), *document.Root.FindProperty(L"Partner"));
+    EXPECT_EQ(*written.Root.FindProperty(L"Anyone"), *document.Root.FindProperty(L"Anyone"));
 }
 
 TEST_F(ReaderErrorsTest, CollectedProblemsDoNotEndTheReading) {

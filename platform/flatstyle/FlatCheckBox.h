@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/flatstyle/FlatToggle.h"
+
+namespace flatstyle {
+
+/// A check box with a flat square; a click turns it over.
+class TFlatCheckBox : public TFlatToggle {
+public:
+    using TFlatToggle::TFlatToggle;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+
+protected:
+    [[nodiscard]] bool CheckedAfterClick() const override { return !GetChecked(); }
+    void DrawSign() override { DrawCheckRect(); }
+    /// Draws the square with its mark.
+    virtual void DrawCheckRect();
+};
+
+}  // namespace flatstyle

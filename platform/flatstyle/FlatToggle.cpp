@@ -1,0 +1,98 @@
+#include "platform/flatstyle/FlatToggle.h"
+
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/graphics/Canvas.h"
+#include "platform/vcl/graphics/TextLayout.h"
+
+namespace flatstyle {
+namespace {
+
+constexpr int SignSize = 13;
+constexpr int CaptionLeft = 18;
+
+}  // namespace
+
+const TMetaClass& TFlatToggle::StaticClass() {
+    static const TMetaClass meta = DefineClass<TFlatToggle>(L"TFlatToggle", TPushControl::StaticClass());
+    return meta;
+}
+
+TFlatToggle::TFlatToggle(TComponent* AOwner) : TPushControl(AOwner) {
+    SetBounds(0, 0, 121, 17);
+}
+
+void TFlatToggle::SetColors(int Index, TColor Value) {
+    if (FColors.Set(Index, Value)) Invalidate();
+}
+
+void TFlatToggle::SetChecked(bool Value) {
+    if (Value == FChecked) return;
+    FChecked = Value;
+    Invalidate();
+    const TLifeGuard guard(*this);
+    CheckedChanged();
+    if (guard.IsAlive() && !IsInState(csLoading)) TPushControl::Click();
+}
+
+void TFlatToggle::Click() {
+    const bool checked = CheckedAfterClick();
+    if (checked == FChecked)
+        TPushControl::Click();
+    else
+        SetChecked(checked);
+}
+
+void TFlatToggle::Dispatch(TMessage& message) {
+    // Enter is for the form's default button.
+    const bool isEnter = message.CharCode() == VK_RETURN;
+    if (isEnter && (message.Msg == CM_DIALOGKEY || message.Msg == CM_CHILDKEY))
+        return TCustomControl::Dispatch(message);
+    if (message.Msg == WM_GETDLGCODE) {
+        TCustomControl::Dispatch(message);
+        message.Result |= DLGC_BUTTON;
+        return;
+    }
+    TPushControl::Dispatch(message);
+}
+
+TRect TFlatToggle::SignRect() const {
+    return TRect::OfSize(0, (GetClientHeight() - SignSize) / 2, SignSize, SignSize);
+}
+
+TColor TFlatToggle::SignGround() const {
+    switch (GetPushState()) {
+        case pshPressed:
+            return GetColors(DownColorIndex);
+        case pshHot:
+            return GetColors(FocusedColorIndex);
+        default:
+            return IsFocusShown() ? GetColors(FocusedColorIndex) : GetColor();
+    }
+}
+
+TColor TFlatToggle::SignColor() const {
+    return GetEnabled() ? GetColors(CheckColorIndex) : clGrayText;
+}
+
+void TFlatToggle::Paint() {
+    DrawSign();
+    DrawCaption();
+}
+
+void TFlatToggle::DrawCaption() {
+    const String caption = GetCaption();
+    if (caption.empty()) return;
+    TCanvas& canvas = GetCanvas();
+    canvas.SetFont(GetFont());
+    if (!GetEnabled()) canvas.GetFont().SetColor(clGrayText);
+    canvas.GetBrush().SetStyle(bsClear);
+    TRect rect = GetClientRect();
+    rect.Left = CaptionLeft;
+    canvas.TextRect(rect, caption, DT_SINGLELINE | DT_VCENTER | DT_LEFT);
+    if (!IsFocusShown()) return;
+    const TSize size = MeasureText(canvas, caption, DT_SINGLELINE);
+    const int top = (GetClientHeight() - size.Height) / 2;
+    canvas.DrawFocusRect({CaptionLeft - 2, top - 1, CaptionLeft + size.Width + 2, top + size.Height + 1});
+}
+
+}  // namespace flatstyle

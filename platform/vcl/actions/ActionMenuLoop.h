@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/vcl/controls/MessageFilter.h"
+#include "platform/vcl/core/Geometry.h"
+
+namespace vcl {
+
+class TActionMainMenuBar;
+class TActionPopupMenu;
+class TCustomActionBar;
+class TCustomActionControl;
+
+/// Works the menus of a bar: sees mouse and keyboard before everybody else while one is open.
+class TActionMenuLoop : public TMessageFilter {
+public:
+    explicit TActionMenuLoop(TActionMainMenuBar& bar);
+    ~TActionMenuLoop() override;
+
+    [[nodiscard]] bool IsActive() const { return IsInstalled(); }
+    [[nodiscard]] std::vector<TActionPopupMenu*> OpenMenus() const;
+    void Enter(TCustomActionControl* control, bool open, bool byKeyboard);
+    /// Ends it; runs the action of `chosen` when there is one.
+    void Leave(TCustomActionControl* chosen);
+    /// A bar frees its controls.
+    void ControlsGoing(const TCustomActionBar& bar);
+    /// What a menu shows is gone.
+    void MenuGone(const TActionPopupMenu& menu);
+    /// The highlighted control of a bar or menu, or null.
+    [[nodiscard]] static TCustomActionControl* SelectedIn(const TCustomActionBar& bar);
+
+    bool FilterMessage(MSG& message) override;
+
+private:
+    using Menus = std::vector<std::unique_ptr<TActionPopupMenu>>;
+
+    [[nodiscard]] TCustomActionBar& Deepest() const;
+    void Select(TCustomActionBar& bar, TCustomActionControl* control);
+    /// Closes the menus from that level on.
+    void CloseFrom(std::size_t level);
+    /// Drops the items of a control down; false when there are none or the bar is gone.
+    bool Open(TCustomActionBar& bar, TCustomActionControl& control, bool selectFirst);
+    void Choose(TCustomActionControl& control);
+    // mouse
+    [[nodiscard]] TCustomActionControl* ControlAt(TPoint screen, TCustomActionBar*& bar) const;
+    void MouseMove(TPoint screen);
+    bool MouseDown(MSG& message, TPoint screen);
+    void MouseUp(TPoint screen);
+    // keyboard
+    bool KeyDown(MSG& message);
+    void MoveAlongBar(int step, bool open);
+    void MoveInMenu(int step);
+    void SelectEdge(bool last);
+    void StepRight();
+    void StepLeft();
+    void StepBack();
+    void OpenOrChoose();
+    void Letter(wchar_t letter);
+
+    TActionMainMenuBar& FBar;
+    Menus FMenus;
+    TPoint FLastMouse{-1, -1};
+    bool FPressOnOpen = false;  ///< The press that is under way opened the menu on which it lies.
+};
+
+}  // namespace vcl

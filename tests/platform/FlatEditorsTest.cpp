@@ -1,0 +1,166 @@
+#include "platform/flatstyle/FlatComboBox.h"
+#include "platform/flatstyle/FlatSpinEditInteger.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/PixelProbe.h"
+
+namespace {
+
+using namespace flatstyle;
+using test::PumpAll;
+
+class FlatEditors : public test::FormTest {
+protected:
+    TFlatSpinEditInteger& Spin() {
+        if (!FSpin) FSpin = Make<TFlatSpinEditInteger>(TRect::OfSize(10, 10, 80, 21));
+        return *FSpin;
+    }
+    /// Presses one of the spin buttons.
+    void ClickButton(bool up) {
+        RECT client{};
+        ::GetClientRect(Spin().ButtonsHandle(), &client);
+        Input.ClickAt(Spin().ButtonsHandle(), client.right / 2,
+                      up ? client.bottom / 4 : client.bottom * 3 / 4);
+    }
+    static test::Pixels Shown(TWinControl& control) {
+        PumpAll();
+        return test::ReadClient(control.GetHandle());
+    }
+
+private:
+    TFlatSpinEditInteger* FSpin = nullptr;
+};
+
+TEST_F(FlatEditors, ButtonsStepByTheIncrementInsideTheRange) {
+    Spin().SetMinValue(-5);
+    Spin().SetMaxValue(12);
+    Spin().SetIncrement(5);
+    std::vector<int> values;
+    Spin().OnChange = [&](TObject*) { values.push_back(Spin().GetValue()); };
+    ClickButton(true);
+    ClickButton(true);
+    ClickButton(true);
+    ClickButton(false);
+    EXPECT_EQ(values, (std::vector<int>{5, 10, 12, 7}));
+    Spin().SetValue(-99);
+    EXPECT_EQ(Spin().GetValue(), -5);
+}
+
+TEST_F(FlatEditors, KeysAndWheelStep) {
+    Spin().SetFocus();
+    Input.KeyPress(VK_UP);
+    Input.KeyPress(VK_UP);
+    Input.KeyPress(VK_DOWN);
+    EXPECT_EQ(Spin().GetValue(), 1);
+    Input.MoveTo(Spin().GetHandle(), 10, 10);
+    Input.Wheel(2);
+    EXPECT_EQ(Spin().GetValue(), 3);
+    Input.Wheel(-4);
+    EXPECT_EQ(Spin().GetValue(), -1);
+}
+
+TEST_F(FlatEditors, OnlyNumbersCanBeTypedAndLeavingSettlesThem) {
+    auto* other = Make<TEdit>(TRect::OfSize(10, 50, 80, 21));
+    Spin().SetMaxValue(50);
+    Spin().SetFocus();
+    Spin().SelectAll();
+    Input.Type(L"9a9x");
+    EXPECT_EQ(Spin().GetText(), L"99");
+    other->SetFocus();
+    EXPECT_EQ(Spin().GetText(), L"50");
+    Spin().SetText(L"--");
+    EXPECT_EQ(Spin().GetValue(), 0);
+}
+
+TEST_F(FlatEditors, StepsStopAtTheEndOfTheNumbers) {
+    Spin().SetValue(0x7FFFFFFF);
+    Spin().Step(1);
+    EXPECT_EQ(Spin().GetValue(), 0x7FFFFFFF);
+    Spin().SetText(L"99999999999999999999");
+    EXPECT_EQ(Spin().GetValue(), 0);
+}
+
+TEST_F(FlatEditors, TheSpinEditShowsItsColours) {
+    auto* other = Make<TEdit>(TRect::OfSize(10, 50, 80, 21));
+    Spin().SetColors(0, 0x00111111);
+    Spin().SetColors(1, 0x00222222);
+    Spin().SetColors(2, 0x00333333);
+    other->SetFocus();
+    test::Pixels shown = Shown(Spin());
+    EXPECT_EQ(shown.At(40, 0), 0x00222222u);
+    EXPECT_EQ(shown.At(0, 10), 0x00222222u);
+    EXPECT_EQ(shown.At(50, 2), 0x00333333u);
+    Spin().SetFocus();
+    EXPECT_EQ(Shown(Spin()).At(50, 2), 0x00111111u);
+}
+
+TEST_F(FlatEditors, EverythingSurvivesANewWindow) {
+    Spin().SetValue(42);
+    Spin().RecreateWnd();
+    EXPECT_EQ(Spin().GetValue(), 42);
+    EXPECT_TRUE(::IsWindow(Spin().ButtonsHandle()));
+    ClickButton(true);
+    EXPECT_EQ(Spin().GetValue(), 43);
+}
+
+// --- the combo box
+
+class ProbedFlatComboBox : public TFlatComboBox {
+public:
+    using TFlatComboBox::GetButtonRect;
+    using TFlatComboBox::TFlatComboBox;
+};
+
+TEST_F(FlatEditors, AComboBoxHasALineAroundItAndAButtonWithATriangle) {
+    auto* box = Make<ProbedFlatComboBox>(TRect::OfSize(10, 10, 100, 21));
+    box->SetColors(0, 0x00111111);
+    box->SetColors(1, 0x00222222);
+    box->SetColors(2, 0x00333333);
+    box->SetColor(0x00444444);
+    const test::Pixels shown = Shown(*box);
+    const int width = shown.Width();
+    const int height = shown.Height();
+    EXPECT_EQ(shown.At(0, height / 2), 0x00333333u);
+    EXPECT_EQ(shown.At(width / 2, 0), 0x00333333u);
+    EXPECT_EQ(shown.At(1, 1), 0x00444444u);
+    const TRect button = box->GetButtonRect();
+    EXPECT_EQ(button.Width(), 17);
+    EXPECT_EQ(shown.At(button.Left, height / 2), 0x00333333u);
+    EXPECT_EQ(shown.At(button.Left + 2, 2), 0x00222222u);
+    const int x = button.Left + 8 - 5;
+    const int y = height / 2;
+    EXPECT_EQ(shown.At(x + 3, y - 1), 0x00111111u);
+    EXPECT_EQ(shown.At(x + 7, y - 1), 0x00111111u);
+    EXPECT_EQ(shown.At(x + 5, y + 1), 0x00111111u);
+    EXPECT_EQ(shown.At(x + 3, y + 1), 0x00222222u);
+}
+
+TEST_F(FlatEditors, TheTrianglePointsUpWhileTheListIsOpen) {
+    auto* box = Make<ProbedFlatComboBox>(TRect::OfSize(10, 10, 100, 21));
+    box->GetItems().Add(L"eins");
+    box->SetColors(1, 0x00222222);
+    box->SetFocus();
+    box->SetDroppedDown(true);
+    const test::Pixels shown = Shown(*box);
+    const int x = box->GetButtonRect().Left + 8 - 5;
+    const int y = shown.Height() / 2;
+    EXPECT_EQ(shown.At(x + 5, y - 1), 0x00000000u);
+    EXPECT_EQ(shown.At(x + 3, y + 1), 0x00000000u);
+    EXPECT_EQ(shown.At(x + 3, y - 1), 0x00222222u);
+    box->SetDroppedDown(false);
+}
+
+TEST_F(FlatEditors, AListShowsItsChosenEntry) {
+    auto* box = Make<ProbedFlatComboBox>(TRect::OfSize(10, 10, 100, 21));
+    auto* other = Make<TEdit>(TRect::OfSize(10, 50, 80, 21));
+    box->SetStyle(csDropDownList);
+    box->GetItems().Add(L"WWWWW");
+    other->SetFocus();
+    const auto dark = [&] { return Shown(*box).Part({4, 2, 70, 18}).Count(0); };
+    EXPECT_EQ(dark(), 0);
+    box->SetItemIndex(0);
+    EXPECT_GT(dark(), 20);
+    box->SetFocus();
+    EXPECT_GT(Shown(*box).Count(ColorToRGB(clHighlight)), 100);
+}
+
+}  // namespace
