@@ -52,17 +52,23 @@ function(house_use name)
   endforeach()
 endfunction()
 
-# A resource script goes where the linker keeps it: into the DLL, or with a static library into each program.
-function(house_resources name script)
-  if(QV7_COMPILE_ONLY OR NOT EXISTS "${PROJECT_SOURCE_DIR}/${script}")
-    return()
-  endif()
+# Compiles a resource script anew when one of the files beside it changes.
+function(house_resource_pieces script)
   cmake_path(GET script PARENT_PATH folder)
   file(GLOB_RECURSE pieces CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/${folder}/*.bmp"
     "${PROJECT_SOURCE_DIR}/${folder}/*.dfm" "${PROJECT_SOURCE_DIR}/${folder}/*.ico"
     "${PROJECT_SOURCE_DIR}/${folder}/*.rc" "${PROJECT_SOURCE_DIR}/${folder}/*.rh")
   list(REMOVE_ITEM pieces "${PROJECT_SOURCE_DIR}/${script}")
   set_property(SOURCE "${PROJECT_SOURCE_DIR}/${script}" PROPERTY OBJECT_DEPENDS "${pieces}")
+endfunction()
+
+# A resource script goes where the linker keeps it: into the DLL, or with a static library into each program.
+function(house_resources name script)
+  if(QV7_COMPILE_ONLY OR NOT EXISTS "${PROJECT_SOURCE_DIR}/${script}")
+    return()
+  endif()
+  cmake_path(GET script PARENT_PATH folder)
+  house_resource_pieces(${script})
   if(BUILD_SHARED_LIBS)
     target_sources(${name} PRIVATE "${PROJECT_SOURCE_DIR}/${script}")
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/${folder}")
@@ -103,9 +109,10 @@ function(house_library name)
 endfunction()
 
 # What programs have in common: sources, libraries, manifest.
-# KIND is WIN32 for programs with windows, LINK holds linker options, PCH names the precompiled header to share.
+# KIND is WIN32 for programs with windows, LINK holds linker options, PCH names the precompiled header to share,
+# RESOURCES is a resource script with form files.
 function(house_executable name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "KIND;PCH" "FOLDERS;USES;OPTIONS;LINK")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "KIND;PCH;RESOURCES" "FOLDERS;USES;OPTIONS;LINK")
   house_sources(sources ${arg_FOLDERS})
   if(NOT sources)
     return()
@@ -116,6 +123,12 @@ function(house_executable name)
     add_executable(${name} ${arg_KIND} ${sources} "${PROJECT_SOURCE_DIR}/cmake/manifest/Manifest.rc")
     target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/cmake/manifest")
     target_link_options(${name} PRIVATE ${arg_LINK})
+    if(arg_RESOURCES)
+      cmake_path(GET arg_RESOURCES PARENT_PATH folder)
+      house_resource_pieces(${arg_RESOURCES})
+      target_sources(${name} PRIVATE "${PROJECT_SOURCE_DIR}/${arg_RESOURCES}")
+      target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}/${folder}")
+    endif()
   endif()
   house_setup(${name})
   house_use(${name} ${arg_USES})

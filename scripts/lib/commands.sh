@@ -12,7 +12,7 @@ bench||measures what things cost; prints a table and writes build/bench.json
 shots|[folder]|draws every page of the gallery to a PNG in the folder (build/shots)
 TEXT
     [ ! -d designer ] || echo "designer||opens the form designer"
-    [ ! -d tools/dfm ] || echo "dfm|...|converts and checks form files"
+    [ ! -d tools/dfm ] || echo "dfm|...|checks, converts and shows form files; ./run dfm help tells how"
     cat <<'TEXT'
 soak|[filter]|runs the tests that take long
 lint|[check]|checks the house rules
@@ -92,7 +92,9 @@ command_dfm() {
     need build wine
     need_program dfm
     wine_ready null
-    wine_run dfm "$@"
+    # Files are named as seen from where the command was given.
+    (cd "$CALLER" && exec "$ROOT/scripts/wine-run" "$ROOT/$BIN/dfm.exe" "$@") &
+    wait $!
 }
 
 command_lint() {

@@ -1,5 +1,7 @@
 #include "tests/support/EventGenerator.h"
 
+#include <windowsx.h>
+
 #include <string>
 
 #include "tests/support/LedgerTest.h"

@@ -1,0 +1,7 @@
+#pragma once
+
+namespace vcl {}
+
+namespace dfm {
+using namespace vcl;
+}
