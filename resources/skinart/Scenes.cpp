@@ -51,7 +51,7 @@ void DrawTab(Picture& scene, const Catalogue& skin, const TabLook& look, int lef
     const int height = scene.Height();
     scene.DrawTransparent(Compose(skin.FindFrame(look.Prefix), width, height, look.Fill), left, 0);
     const std::string number = std::to_string(frame);
-    scene.Draw(skin.Find("TABANIMATION" + number + look.Signs), left + look.Margin, 3);
+    scene.DrawTransparent(skin.Find("TABANIMATION" + number + look.Signs), left + look.Margin, 3);
     const int right = left + width - look.Margin;
     scene.DrawTransparent(skin.Find("TABCLOSE" + look.Signs), right - 6, 4);
     scene.DrawTransparent(skin.Find((frame == 1 ? "TABUNLOCK" : "TABLOCK") + look.Signs), right - 6, 11);

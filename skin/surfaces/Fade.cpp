@@ -31,6 +31,11 @@ void FadeRow(std::uint8_t* to, const std::uint8_t* from, int width, const TTable
     }
 }
 
+/// What a bitmap has in memory.
+TRect RowsOf(const TBitmap& bitmap) {
+    return TRect::OfSize(0, bitmap.GetFirstRow(), bitmap.GetWidth(), bitmap.GetRowCount());
+}
+
 }  // namespace
 
 void Fade(TBitmap& dest, TColor color, int x, int y, long double alpha, TBitmap& source,
@@ -44,9 +49,9 @@ void Fade(TBitmap& dest, TColor color, int x, int y, long double alpha, TBitmap&
     source.SetPixelFormat(pf24bit);
 
     const int dx = x - sourceRect.Left, dy = y - sourceRect.Top;
-    TRect area = sourceRect.Intersect({0, 0, source.GetWidth(), source.GetHeight()});
+    TRect area = sourceRect.Intersect(RowsOf(source));
     area.Offset(dx, dy);
-    area = area.Intersect({0, 0, dest.GetWidth(), dest.GetHeight()});
+    area = area.Intersect(RowsOf(dest));
     if (area.IsEmpty()) return;
 
     const TColor rgb = ColorToRGB(color);
@@ -56,8 +61,8 @@ void Fade(TBitmap& dest, TColor color, int x, int y, long double alpha, TBitmap&
     const TBitmapBits to = dest.WriteBits();
     const TBitmapBits from = source.WriteBits();
     for (int row = area.Top; row < area.Bottom; ++row)
-        FadeRow(to.Pixel(area.Left, row), from.Pixel(area.Left - dx, row - dy), area.Width(), blue, green,
-                red);
+        FadeRow(to.Pixel(area.Left, row - dest.GetFirstRow()),
+                from.Pixel(area.Left - dx, row - dy - source.GetFirstRow()), area.Width(), blue, green, red);
     dest.Changed();
 }
 

@@ -33,23 +33,26 @@ TFlickerFreePaintBox::TFlickerFreePaintBox(TComponent* AOwner) : TCustomControl(
     SetParentFont(true);
     SetDoubleBuffered(true);
     SetTabStop(false);
-    MakeBuffer();
+    FBuffer = TFlickerFreePaintBox::CreateBuffer();
 }
 
 TFlickerFreePaintBox::~TFlickerFreePaintBox() = default;
 
-void TFlickerFreePaintBox::MakeBuffer() {
-    FBuffer = std::make_shared<TBitmap>();
-    FBuffer->SetPixelFormat(pf24bit);
-    FBuffer->GetCanvas().GetBrush().SetColor(GetColor());
-    FBuffer->SetSize(GetWidth(), GetHeight());
+std::shared_ptr<TBitmap> TFlickerFreePaintBox::CreateBuffer() const {
+    auto buffer = std::make_shared<TBitmap>();
+    buffer->SetPixelFormat(pf24bit);
+    buffer->GetCanvas().GetBrush().SetColor(GetColor());
+    buffer->SetSize(GetWidth(), GetHeight());
+    return buffer;
+}
+
+void TFlickerFreePaintBox::RenewBuffer() {
+    FBuffer = CreateBuffer();
+    FNeedsPaint = true;
 }
 
 void TFlickerFreePaintBox::Resize() {
-    if (!FPainting) {
-        MakeBuffer();
-        FNeedsPaint = true;
-    }
+    if (!FPainting) RenewBuffer();
     TCustomControl::Resize();
 }
 
@@ -62,22 +65,52 @@ void TFlickerFreePaintBox::ReAssignBufferFont() {
 }
 
 void TFlickerFreePaintBox::Repaint() {
+    if (!IsInState(csDesigning) && PaintBuffer({0, 0, FBuffer->GetWidth(), FBuffer->GetHeight()})) PaintNow();
+}
+
+TFlickerFreePaintBox::TPartScope::TPartScope(TBitmap& buffer, const TRect& part) : FBuffer(buffer) {
+    ::IntersectClipRect(buffer.GetCanvas().GetHandle(), part.Left, part.Top, part.Right, part.Bottom);
+}
+
+TFlickerFreePaintBox::TPartScope::~TPartScope() {
+    ::SelectClipRgn(FBuffer.GetCanvas().GetHandle(), nullptr);
+}
+
+void TFlickerFreePaintBox::RepaintPart(const TRect& Part) {
+    if (FNeedsPaint || FDeformed) return Repaint();
     if (IsInState(csDesigning)) return;
+    const std::shared_ptr<TBitmap> painted = FBuffer;
+    {
+        const TPartScope clip(*painted, Part);
+        if (!PaintBuffer(Part)) return;
+    }
+    ShowPart(Part);
+}
+
+void TFlickerFreePaintBox::ShowPart(const TRect& Part) {
+    if (FNeedsPaint || FDeformed || !HandleAllocated()) return Invalidate();
+    CopyPart(Part);
+}
+
+bool TFlickerFreePaintBox::PaintBuffer(const TRect& part) {
     ReAssignBufferFont();
     TCanvas& canvas = FBuffer->GetCanvas();
     canvas.GetBrush().SetColor(GetColor());
-    canvas.FillRect({0, 0, FBuffer->GetWidth(), FBuffer->GetHeight()});
+    canvas.FillRect(part);
 
     // Whoever paints may change the control's size, which makes a new buffer, or free the control.
     const TLifeGuard guard(*this);
     const std::shared_ptr<TBitmap> painted = FBuffer;
     DoFFPaint();
-    if (!guard.IsAlive()) return;
+    if (!guard.IsAlive()) return false;
     FNeedsPaint = FBuffer != painted;
-    if (FNeedsPaint)
-        Invalidate();
-    else
-        PaintNow();
+    if (FNeedsPaint) Invalidate();
+    return !FNeedsPaint;
+}
+
+void TFlickerFreePaintBox::InvalidateBuffer() {
+    FNeedsPaint = true;
+    Invalidate();
 }
 
 void TFlickerFreePaintBox::ApplyDeform(long double ScaleX, long double ScaleY, long double Alpha) {
@@ -93,7 +126,6 @@ void TFlickerFreePaintBox::NoDeform() {
     PaintNow();
 }
 
-/// Paints without the way round through the message queue, when there is a window to paint on.
 void TFlickerFreePaintBox::PaintNow() {
     if (HandleAllocated()) Paint();
 }
@@ -119,8 +151,16 @@ void TFlickerFreePaintBox::PaintDesign() {
 }
 
 void TFlickerFreePaintBox::ShowBuffer() {
+    CopyPart({0, 0, FBuffer->GetWidth(), FBuffer->GetHeight()});
+}
+
+void TFlickerFreePaintBox::CopyPart(const TRect& part) {
+    CopyToCanvas(part, *FBuffer, part);
+}
+
+void TFlickerFreePaintBox::CopyToCanvas(const TRect& dest, const TBitmap& source, const TRect& sourceRect) {
     const TFlagScope painting(FPainting);
-    GetCanvas().Draw(0, 0, FBuffer.get());
+    GetCanvas().CopyRect(dest, source, sourceRect);
 }
 
 void TFlickerFreePaintBox::ShowDeformed() {
@@ -133,7 +173,11 @@ void TFlickerFreePaintBox::ShowDeformed() {
 
     TCanvas& canvas = GetCanvas();
     canvas.StretchDraw({0, 0, right, bottom}, &faded);
-    // What the scaled picture leaves free at its right and below it, to the last pixel of the control.
+    FillBeside(right, bottom);
+}
+
+void TFlickerFreePaintBox::FillBeside(int right, int bottom) {
+    TCanvas& canvas = GetCanvas();
     canvas.GetBrush().SetColor(GetColor());
     const TRect strips[] = {{right, 0, GetWidth(), GetHeight()}, {0, bottom, GetWidth(), GetHeight()}};
     for (const TRect& strip : strips)

@@ -42,6 +42,12 @@ public:
 
     /// Paints the buffer anew and shows it at once; nothing at design time.
     void Repaint() override;
+    /// The same for a rectangle: what the owner paints is cut to it.
+    void RepaintPart(const TRect& Part);
+    /// Shows a part of the buffer as it is, for owners that painted into it by themselves.
+    void ShowPart(const TRect& Part);
+    /// Has the buffer painted anew, and shown, with the next paint message.
+    void InvalidateBuffer();
     /// Shows the buffer scaled by ScaleX and ScaleY in the top left corner, faded by Alpha (1: as it is, 0:
     /// the control's colour), at once and with each paint until `NoDeform`.
     void ApplyDeform(long double ScaleX, long double ScaleY, long double Alpha);
@@ -52,12 +58,44 @@ protected:
     void Paint() override;
     void Resize() override;
 
-private:
-    void MakeBuffer();
+    /// A new buffer for the control as it is.
+    [[nodiscard]] virtual std::shared_ptr<TBitmap> CreateBuffer() const;
+    /// Copies the buffer to the canvas, scaled and faded.
+    virtual void ShowDeformed();
+    /// Takes a new buffer, which waits for being painted.
+    void RenewBuffer();
+    /// The buffer, kept alive for whoever paints on it.
+    [[nodiscard]] std::shared_ptr<TBitmap> ShareBuffer() const { return FBuffer; }
+    /// Copies from the bitmap to the canvas; `GetPainting` is true meanwhile.
+    void CopyToCanvas(const TRect& dest, const TBitmap& source, const TRect& sourceRect);
+    /// Copies a part of the buffer to its place on the canvas.
+    virtual void CopyPart(const TRect& part);
+    /// Paints without the way round through the message queue, when there is a window to paint on.
     void PaintNow();
+    /// Cuts drawing on a buffer to a part for the length of a scope, without the cost of keeping all of the
+    /// canvas' state.
+    class [[nodiscard]] TPartScope {
+    public:
+        TPartScope(TBitmap& buffer, const TRect& part);
+        ~TPartScope();
+        TPartScope(const TPartScope&) = delete;
+        TPartScope& operator=(const TPartScope&) = delete;
+
+    private:
+        TBitmap& FBuffer;
+    };
+
+    /// Lets the owner paint the buffer on the control's colour; false when that is not to be shown now.
+    [[nodiscard]] bool PaintBuffer(const TRect& part);
+    [[nodiscard]] long double GetScaleX() const { return FScaleX; }
+    [[nodiscard]] long double GetScaleY() const { return FScaleY; }
+    [[nodiscard]] long double GetAlpha() const { return FAlpha; }
+    /// Fills what a deformed picture of that size leaves free at its right and below it.
+    void FillBeside(int right, int bottom);
+
+private:
     void PaintDesign();
     void ShowBuffer();
-    void ShowDeformed();
 
     std::shared_ptr<TBitmap> FBuffer;  // shared with whoever is painting on it
     bool FPainting = false;

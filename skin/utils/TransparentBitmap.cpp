@@ -47,7 +47,7 @@ void MixInto(const TDirectBits& target, const TConstBitmapBits& mask, const TCon
     const int dx = dest.Left - source.Left, dy = dest.Top - source.Top;
     TRect area = source.Intersect({0, 0, picture.Width, picture.Height});
     area.Offset(dx, dy);
-    area = area.Intersect(target.Clip).Intersect({0, 0, target.Bits.Width, target.Bits.Height});
+    area = area.Intersect(target.Clip);
     for (int y = area.Top; y < area.Bottom; ++y)
         MixRow(target.Bits.Pixel(area.Left, y), target.Bits.BytesPerPixel, mask.Pixel(area.Left - dx, y - dy),
                picture.Pixel(area.Left - dx, y - dy), area.Width());

@@ -2,7 +2,7 @@
 
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Regions.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

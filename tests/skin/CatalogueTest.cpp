@@ -8,7 +8,7 @@
 #include "platform/vcl/core/Resources.h"
 #include "skin/UnitQV7SkinConsts.h"
 #include "skin/surfaces/Loaders.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

@@ -3,7 +3,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/UnitQV7SkinColors.h"
 #include "skin/surfaces/Loaders.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

@@ -2,8 +2,8 @@
 
 #include "platform/vcl/stdctrls/Panel.h"
 #include "skin/Namespace.h"
-#include "tests/skin/SkinTesting.h"
 #include "tests/support/FormTest.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin::probes {
 

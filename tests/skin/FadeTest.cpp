@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

@@ -3,7 +3,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Picture.h"
 #include "platform/vcl/stdctrls/Image.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

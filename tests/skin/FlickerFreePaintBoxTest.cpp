@@ -74,6 +74,36 @@ TEST_F(FlickerFreePaintBoxTest, ShowsWhatTheOwnerPainted) {
     EXPECT_FALSE(FBox->GetNeedsPaint());
 }
 
+TEST_F(FlickerFreePaintBoxTest, APartIsPaintedAndShownAlone) {
+    FPaintColor = clLime;
+    FBox->RepaintPart({40, 10, 60, 20});
+    EXPECT_EQ(FPaints, 1);
+    const auto expected = [](int x, int y) {
+        const bool inPart = x >= 40 && x < 50 && y >= 10 && y < 20;
+        return inPart ? COLORREF{clLime} : Picture(x);
+    };
+    EXPECT_TRUE(SamePixels(test::ReadClient(FBox->GetHandle()), expected));
+    EXPECT_TRUE(SamePixels(PixelsOf(FBox->GetBuffer()), expected));
+}
+
+TEST_F(FlickerFreePaintBoxTest, APartOfAnInvalidBufferIsAllOfIt) {
+    FPaintColor = clLime;
+    FBox->InvalidateBuffer();
+    FBox->RepaintPart({40, 10, 60, 20});
+    EXPECT_EQ(test::ReadClient(FBox->GetHandle()).At(0, 0), COLORREF{clLime});
+    EXPECT_FALSE(FBox->GetNeedsPaint());
+}
+
+TEST_F(FlickerFreePaintBoxTest, AnInvalidBufferIsPaintedWithTheNextMessage) {
+    FPaintColor = clLime;
+    FBox->InvalidateBuffer();
+    EXPECT_TRUE(FBox->GetNeedsPaint());
+    EXPECT_EQ(FPaints, 0);
+    EXPECT_EQ(Shown(*FBox).At(10, 10), COLORREF{clLime});
+    EXPECT_EQ(FPaints, 1);
+    EXPECT_FALSE(FBox->GetNeedsPaint());
+}
+
 TEST_F(FlickerFreePaintBoxTest, PaintMessagesShowTheBufferAsItIs) {
     FBox->Invalidate();
     EXPECT_TRUE(SamePixels(Shown(*FBox), [](int x, int) { return Picture(x); }));

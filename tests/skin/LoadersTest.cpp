@@ -3,7 +3,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Font.h"
 #include "skin/UnitQV7SkinConsts.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/masking/NinePartPaths.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

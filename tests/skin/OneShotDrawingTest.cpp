@@ -3,7 +3,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/DeviceContexts.h"
 #include "skin/utils/RasterSteps.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

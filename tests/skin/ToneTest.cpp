@@ -6,7 +6,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/utils/ToneBits.h"
 #include "skin/utils/TonePixels.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {

@@ -1,7 +1,7 @@
 #include "skin/utils/TransparentBitmap.h"
 
 #include "platform/vcl/graphics/Canvas.h"
-#include "tests/skin/SkinTesting.h"
+#include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
 namespace {
