@@ -1,0 +1,88 @@
+#include "explorerbar/items/ExplorerItemWithPopupWindow.h"
+
+#include "explorerbar/UnitQV7SkinExplorerBar.h"
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/Exceptions.h"
+
+namespace qv7skin {
+
+const TMetaClass& TQV7SkinExplorerItemPopupWindow::StaticClass() {
+    static const TMetaClass meta = DefineClass<TQV7SkinExplorerItemPopupWindow>(
+        L"TQV7SkinExplorerItemPopupWindow", TQV7SkinPopupForm::StaticClass());
+    return meta;
+}
+
+TQV7SkinExplorerItemPopupWindow::TQV7SkinExplorerItemPopupWindow(TComponent* AOwner)
+    : TQV7SkinPopupForm(AOwner) {
+    SetResizeDirection({rdLeft, rdBottom});
+}
+
+void TQV7SkinExplorerItemPopupWindow::MouseLeave() {
+    const TLifeGuard guard(*this);
+    TQV7SkinPopupForm::MouseLeave();
+    if (guard.IsAlive() && !GetShowBorder()) OnLeaveWindow(this);
+}
+
+TQV7SkinExplorerItemWithPopupWindow::TQV7SkinExplorerItemWithPopupWindow(
+    TQV7SkinExplorerItemPopupWindow* PopupWindow)
+    : FPopupWindow(PopupWindow) {}
+
+TQV7SkinExplorerItemWithPopupWindow::~TQV7SkinExplorerItemWithPopupWindow() {
+    if (FPopupWindow && FPopupWindow->OnLeaveWindow.ObjectPart() == dynamic_cast<void*>(this))
+        FPopupWindow->OnLeaveWindow.Clear();
+}
+
+void TQV7SkinExplorerItemWithPopupWindow::SetPopupWindow(TCustomForm* Form) {
+    auto* window = dynamic_cast<TQV7SkinExplorerItemPopupWindow*>(Form);
+    if (Form && !window)
+        throw EInvalidOperation(String(Form->ClassName()) +
+                                L" found but TQV7SkinExplorerItemPopupWindow expected");
+    FPopupWindow = window;
+}
+
+bool TQV7SkinExplorerItemWithPopupWindow::GetWindowLocked() const {
+    return FPopupWindow && FPopupWindow->GetLocked();
+}
+
+void TQV7SkinExplorerItemWithPopupWindow::SetWindowLocked(bool Value) {
+    if (FPopupWindow) FPopupWindow->SetLocked(Value);
+}
+
+void TQV7SkinExplorerItemWithPopupWindow::DoEnter(TCursor& Cursor) {
+    TQV7SkinExplorerBar* bar = GetBar();
+    if (!bar) return TQV7SkinExplorerItemLink::DoEnter(Cursor);
+    const TLifeGuard guard(*bar);
+    const bool wasHot = bar->HotObject == this;
+    TQV7SkinExplorerItemLink::DoEnter(Cursor);
+    // A handler may have freed the bar, or the item, which the bar then forgot.
+    if (guard.IsAlive() && (!wasHot || bar->HotObject == this)) DoShowWindow();
+}
+
+void TQV7SkinExplorerItemWithPopupWindow::DoLeave(TCursor& Cursor) {
+    // First, since a handler of the event may free the item.
+    DoLeaveWindow(this);
+    TQV7SkinExplorerItemLink::DoLeave(Cursor);
+}
+
+void TQV7SkinExplorerItemWithPopupWindow::DoShowWindow() {
+    TQV7SkinExplorerBar* bar = GetBar();
+    if (!FPopupWindow || !bar) return;
+    FPopupWindow->OnLeaveWindow = {this, &TQV7SkinExplorerItemWithPopupWindow::DoLeaveWindow};
+    if (FPopupWindow->GetVisible() && !FPopupWindow->GetShowBorder()) return;
+    const TRect place = bar->ClipRectToClient(*this);
+    FPopupWindow->SetAttachedTo(dynamic_cast<TCustomForm*>(GetParentForm(bar)));
+    if (FPopupWindow->GetShowBorder())
+        FPopupWindow->Show();
+    else
+        FPopupWindow->ShowAtControl(bar, 0, place.Bottom - 2);
+}
+
+void TQV7SkinExplorerItemWithPopupWindow::DoLeaveWindow(TObject*) {
+    TQV7SkinExplorerBar* bar = GetBar();
+    if (!FPopupWindow || FPopupWindow->GetLocked() || FPopupWindow->GetShowBorder()) return;
+    POINT at{};
+    ::GetCursorPos(&at);
+    if (!FPopupWindow->GetBoundsRect().Contains(at) && (!bar || bar->HotObject != this)) FPopupWindow->Hide();
+}
+
+}  // namespace qv7skin

@@ -1,0 +1,103 @@
+#include "explorerbar/items/ExplorerItemWithPopupWindow.h"
+#include "platform/vcl/core/Exceptions.h"
+#include "tests/explorerbar/ExplorerBarFixture.h"
+
+namespace {
+
+using namespace qv7skin;
+using namespace qv7skin::probes;
+using test::PumpAll;
+
+class ProbedWindow : public TQV7SkinExplorerItemPopupWindow {
+public:
+    using TQV7SkinExplorerItemPopupWindow::TQV7SkinExplorerItemPopupWindow;
+    [[nodiscard]] bool GetLocked() const override { return FLocked; }
+    void SetLocked(bool Value) override { FLocked = Value; }
+
+private:
+    bool FLocked = false;
+};
+
+class PopupWindowItem : public ExplorerBarTest {
+protected:
+    void SetUp() override {
+        ExplorerBarTest::SetUp();
+        Fill(1, 1);
+        FWindow = new ProbedWindow(&Form());
+        FWindow->SetBounds(0, 0, 80, 60);
+        FItem = new TQV7SkinExplorerItemWithPopupWindow(FWindow);
+        FItem->SetCaption(L"Mehr");
+        AddTo(0, FItem);
+        PumpAll();
+    }
+    ProbedWindow& Window() { return *FWindow; }
+    TQV7SkinExplorerItemWithPopupWindow& PopupItem() { return *FItem; }
+
+private:
+    ProbedWindow* FWindow = nullptr;
+    TQV7SkinExplorerItemWithPopupWindow* FItem = nullptr;
+};
+
+TEST_F(PopupWindowItem, TheMouseOpensItsWindowBelowIt) {
+    EXPECT_EQ(Window().GetResizeDirection(), (TPopupResizeDirections{rdLeft, rdBottom}));
+    MoveTo(PopupItem());
+    EXPECT_TRUE(Window().GetVisible());
+    const TRect place = Bar().ClipRectToClient(PopupItem());
+    EXPECT_EQ(Window().GetBoundsRect().TopLeft(), Bar().ClientToScreen({0, place.Bottom - 2}));
+    EXPECT_EQ(Window().GetWidth(), Bar().GetWidth());
+    EXPECT_EQ(Window().GetAttachedTo(), &Form());
+}
+
+TEST_F(PopupWindowItem, TheWindowStaysWhileTheMouseIsOnIt) {
+    MoveTo(PopupItem());
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    EXPECT_TRUE(Window().GetVisible());
+    Input.MoveAway();
+    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
+}
+
+TEST_F(PopupWindowItem, ALockedWindowStays) {
+    PopupItem().SetWindowLocked(true);
+    EXPECT_TRUE(PopupItem().GetWindowLocked());
+    MoveTo(PopupItem());
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    Input.MoveAway();
+    PumpAll();
+    EXPECT_TRUE(Window().GetVisible());
+}
+
+TEST_F(PopupWindowItem, ADetachedWindowIsLeftWhereItIs) {
+    Window().SetShowBorder(true);
+    Window().SetBounds(500, 400, 150, 100);
+    MoveTo(PopupItem());
+    EXPECT_TRUE(Window().GetVisible());
+    EXPECT_EQ(Window().GetBoundsRect().TopLeft(), TPoint(500, 400));
+    Input.MoveAway();
+    PumpAll();
+    EXPECT_TRUE(Window().GetVisible());
+}
+
+TEST_F(PopupWindowItem, ReturnOpensItsWindowInsteadOfClicking) {
+    int clicks = 0;
+    PopupItem().OnClick = [&](TObject*) { ++clicks; };
+    PopupItem().ReturnPressed();
+    EXPECT_TRUE(Window().GetVisible());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(PopupWindowItem, TakesOnlyWindowsOfItsClass) {
+    try {
+        PopupItem().SetPopupWindow(&Form());
+        FAIL() << "a form of another class was taken";
+    } catch (const EInvalidOperation& error) {
+        EXPECT_STREQ(error.what(), "TForm found but TQV7SkinExplorerItemPopupWindow expected");
+    }
+    EXPECT_EQ(PopupItem().GetPopupWindow(), &Window());
+    PopupItem().SetPopupWindow(nullptr);
+    EXPECT_EQ(PopupItem().GetPopupWindow(), nullptr);
+    EXPECT_FALSE(PopupItem().GetWindowLocked());
+    MoveTo(PopupItem());
+    EXPECT_FALSE(Window().GetVisible());
+}
+
+}  // namespace
