@@ -1,0 +1,5 @@
+#pragma once
+
+/// The caption header.
+
+#include "header/caption/CaptionHeader.h"

@@ -1,0 +1,6 @@
+#pragma once
+
+/// The two tab controls.
+
+#include "header/tabs/SimpleTabControl.h"
+#include "header/tabs/TabControl.h"

@@ -1,0 +1,5 @@
+#pragma once
+
+/// The toolbar.
+
+#include "header/toolbar/Toolbar.h"
