@@ -1,0 +1,264 @@
+#include "inputs/UnitQV7SkinDateTimePicker.h"
+#include "platform/vcl/stdctrls/Label.h"
+#include "tests/inputs/InputsTest.h"
+#include "tests/support/CalendarFonts.h"
+
+namespace {
+
+using namespace qv7skin;
+using namespace qv7skin::probes;
+using test::PumpAll;
+
+class DateTimePicker : public InputsTest {
+protected:
+    TQV7SkinDateTimePicker& Picker() {
+        if (!FPicker) {
+            FPicker = Make<TQV7SkinDateTimePicker>(TRect::OfSize(10, 10, 140, 25));
+            FPicker->CreateParts();
+            FPicker->SetDate(Day);
+            FPicker->OnDateChange = [this](TObject* sender) {
+                EXPECT_EQ(sender, FPicker);
+                ++Changes;
+            };
+        }
+        return *FPicker;
+    }
+    TMonthCalendar& Calendar() { return *Picker().GetCalendarForm()->MonthCalendar; }
+    void Open() {
+        Picker().SetDroppedDown(true);
+        PumpAll();
+    }
+    /// The text as if the user had written it.
+    void Write(const String& text) {
+        Picker().GetLabel()->SetCaption(text);
+        Picker().DoEditChange(nullptr);
+    }
+
+    GermanDates German;
+    const TDate Day = EncodeDate(2014, 2, 3);
+    int Changes = 0;
+
+private:
+    test::CalendarFonts FFonts;
+    TQV7SkinDateTimePicker* FPicker = nullptr;
+};
+
+TEST_F(DateTimePicker, ShowsTheDateWithItsDayOfTheWeek) {
+    EXPECT_EQ(Picker().GetText(), L"Mo, 03.02.2014");
+    EXPECT_EQ(Picker().GetFormattedDate(), L"Mo, 03.02.2014");
+    EXPECT_EQ(Picker().GetLabel()->GetBoundsRect(), TRect::OfSize(4, 6, 140 - 4 - 33, 13));
+    EXPECT_EQ(Picker().GetButton()->GetBoundsRect(), TRect::OfSize(140 - 33 - 2, 3, 33, 19));
+    EXPECT_EQ(Picker().GetHeight(), 25);
+}
+
+TEST_F(DateTimePicker, TheFormatFollowsTheLocale) {
+    TFormatSettings& settings = FormatSettings();
+    EXPECT_EQ(Picker().GetDateFormat(), L"ddd, dd.mm.yyyy");
+    EXPECT_EQ(Picker().GetDateEditMask(), L"LL, !99.99.0000;1;_");
+    settings.ShortDateFormat = L"yyyy-MM-dd";
+    settings.DateSeparator = L'-';
+    EXPECT_EQ(Picker().GetDateFormat(), L"ddd, yyyy-mm-dd");
+    EXPECT_EQ(Picker().GetDateEditMask(), L"LL, !0000-99-99;1;_");
+    settings.ShortDateFormat = L"M/d/yyyy";
+    settings.DateSeparator = L'/';
+    settings.ShortDayNames[3] = L"Wed";
+    EXPECT_EQ(Picker().GetDateFormat(), L"ddd, mm/dd/yyyy");
+    EXPECT_EQ(Picker().GetDateEditMask(), L"LLl, !99/99/0000;1;_");
+    settings.ShortDateFormat = L"?";
+    EXPECT_EQ(Picker().GetDateFormat(), L"ddd, mm/dd/yyyy");
+    settings.ShortDateFormat = L"E.M.D";
+    settings.ShortDayNames[3] = L"Mier";
+    EXPECT_EQ(Picker().GetDateFormat(), L"ddd, yyyy/mm/dd");
+    EXPECT_EQ(Picker().GetDateEditMask(), L"LLLL, !0000/99/99;1;_");
+}
+
+TEST_F(DateTimePicker, EveryDateReadsBackInEveryLocale) {
+    for (const LCID locale : {LCID{0x0407}, LCID{0x0409}, LCID{0x0411}, LCID{0x040E}}) {
+        FormatSettings() = TFormatSettings::OfLocale(locale);
+        for (TDate date = EncodeDate(2024, 1, 1); date < EncodeDate(2025, 1, 1); ++date) {
+            Picker().SetDate(date);
+            const String text = Picker().GetText();
+            Picker().SetDate(0);
+            Write(text);
+            Picker().DoEditExit(nullptr);
+            ASSERT_EQ(Picker().GetDate(), date) << ToUtf8(text);
+        }
+    }
+}
+
+TEST_F(DateTimePicker, HostileTextsAreRepairedInSilence) {
+    const String hostile[] = {L"",        L"99.99.9999",        L"Mo, 31.2.2014", String(1 << 20, L'9'),
+                              L",",       L"\xD83D, \xDE00",    L"Mo 03.02.2014", L"Mo, 03/02/2014",
+                              L"morgen,", String(1 << 20, L',')};
+    Picker();
+    for (const String& text : hostile) {
+        Write(text);
+        wchar_t key = 13;
+        Picker().DoEditKeyPress(nullptr, key);
+        EXPECT_EQ(Picker().GetText(), L"Mo, 03.02.2014");
+        EXPECT_EQ(Picker().GetDate(), Day);
+    }
+    EXPECT_EQ(Changes, 0);
+}
+
+TEST_F(DateTimePicker, ATextIsReadByEnterAndByLeaving) {
+    Picker();
+    Write(L"Mo, 4.2.2014");
+    wchar_t key = L'x';
+    Picker().DoEditKeyPress(nullptr, key);
+    EXPECT_EQ(Picker().GetDate(), Day);
+    key = 13;
+    Picker().DoEditKeyPress(nullptr, key);
+    EXPECT_EQ(Picker().GetDate(), Day + 1);
+    EXPECT_EQ(Picker().GetText(), L"Di, 04.02.2014");
+    Picker().DoEditExit(nullptr);
+    EXPECT_EQ(Changes, 1);
+    Write(L"5.2.2014");
+    Picker().DoEditExit(nullptr);
+    EXPECT_EQ(Picker().GetText(), L"Mi, 05.02.2014");
+    EXPECT_EQ(Changes, 2);
+}
+
+TEST_F(DateTimePicker, EverySettingOfTheDateIsTold) {
+    Picker().SetDate(Day);
+    Picker().SetDate(Day);
+    EXPECT_EQ(Changes, 2);
+}
+
+TEST_F(DateTimePicker, GreyTextIsGrey) {
+    EXPECT_EQ(Picker().GetLabel()->GetFont().GetColor(), 0x00000000u);
+    Picker().SetTextGrayed(true);
+    EXPECT_EQ(Picker().GetLabel()->GetFont().GetColor(), 0x00AAAAAAu);
+    Picker().SetTextGrayed(false);
+    EXPECT_EQ(Picker().GetLabel()->GetFont().GetColor(), 0x00000000u);
+}
+
+TEST_F(DateTimePicker, TheCalendarFormIsAsDesigned) {
+    TfrmQV7SkinDateTimePickerDropDown& form = *Picker().GetCalendarForm();
+    EXPECT_EQ(form.GetBorderStyle(), bsNone);
+    EXPECT_EQ(form.GetClientWidth(), 174);
+    EXPECT_EQ(form.GetClientHeight(), 158);
+    EXPECT_EQ(form.GetColor(), clWhite);
+    EXPECT_EQ(form.GetCaption(), L"MonthCalendar");
+    EXPECT_EQ(form.GetFont().GetName(), L"MS Sans Serif");
+    EXPECT_EQ(form.GetFont().GetHeight(), -11);
+    EXPECT_TRUE(form.GetKeyPreview());
+    EXPECT_EQ(Calendar().GetBoundsRect(), TRect::OfSize(-1, -1, 176, 160));
+    EXPECT_EQ(Calendar().GetCalColors().GetTitleBackColor(), 0x00555555u);
+    EXPECT_EQ(Calendar().GetCalColors().GetTrailingTextColor(), 0x00F0EAE7u);
+    EXPECT_EQ(Calendar().GetCalColors().GetTextColor(), clBlack);
+}
+
+TEST_F(DateTimePicker, AClickOpensTheCalendarOnTheDate) {
+    Picker();
+    Input.ClickAt(Form().GetHandle(), 130, 22);
+    EXPECT_TRUE(Picker().GetDroppedDown());
+    EXPECT_TRUE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_EQ(Calendar().GetDate(), Day);
+    EXPECT_EQ(::GetWindow(Picker().GetCalendarForm()->GetHandle(), GW_OWNER), Form().GetHandle());
+    Input.ClickAt(Form().GetHandle(), 130, 22);
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_FALSE(Picker().GetDroppedDown());
+}
+
+TEST_F(DateTimePicker, EscapeKeepsTheOldDate) {
+    Open();
+    Input.KeyPress(VK_RIGHT);
+    EXPECT_EQ(Calendar().GetDate(), Day + 1);
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_EQ(Picker().GetDate(), Day);
+    EXPECT_EQ(Changes, 0);
+    Open();
+    EXPECT_EQ(Calendar().GetDate(), Day);
+    EXPECT_FALSE(Picker().GetCalendarForm()->Cancelled);
+    Input.KeyPress(VK_ESCAPE);
+}
+
+TEST_F(DateTimePicker, EnterTakesTheDayOver) {
+    Open();
+    Input.KeyPress(VK_DOWN);
+    Input.KeyPress(VK_RETURN);
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_EQ(Picker().GetDate(), Day + 7);
+    EXPECT_EQ(Picker().GetText(), L"Mo, 10.02.2014");
+    EXPECT_EQ(Changes, 1);
+}
+
+TEST_F(DateTimePicker, ADoubleClickTakesTheDayOver) {
+    Open();
+    Input.DoubleClickAt(Calendar().GetHandle(), 90, 90);
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_EQ(Picker().GetDate(), Calendar().GetDate());
+    EXPECT_NE(Picker().GetDate(), Day);
+}
+
+TEST_F(DateTimePicker, AClickElsewhereTakesTheDayOver) {
+    Other();
+    Open();
+    Input.KeyPress(VK_LEFT);
+    Input.ClickAt(Other().GetHandle(), 50, 50);
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_EQ(Picker().GetDate(), Day - 1);
+    EXPECT_EQ(Changes, 1);
+}
+
+TEST_F(DateTimePicker, ADateSetWhileOpenShowsInTheCalendar) {
+    Open();
+    Picker().SetDate(Day + 40);
+    EXPECT_EQ(Calendar().GetDate(), Day + 40);
+    Input.KeyPress(VK_ESCAPE);
+}
+
+TEST_F(DateTimePicker, AChangedTextIsReadBeforeTheCalendarOpens) {
+    Picker();
+    Write(L"24.12.2015");
+    Open();
+    EXPECT_EQ(Calendar().GetDate(), EncodeDate(2015, 12, 24));
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_EQ(Picker().GetDate(), EncodeDate(2015, 12, 24));
+}
+
+TEST_F(DateTimePicker, TheButtonShowsItsPictureOnWhite) {
+    const test::Pixels shown = Shown(*Picker().GetButton());
+    EXPECT_EQ(shown.At(0, 0), 0x00FFFFFFu);
+    EXPECT_EQ(shown.At(32, 18), 0x00FFFFFFu);
+    const RECT picture = shown.Bounds([](COLORREF color) { return color != 0x00FFFFFF; });
+    EXPECT_GE(picture.left, (33 - 14) / 2);
+    EXPECT_LE(picture.right, (33 - 14) / 2 + 14);
+}
+
+TEST_F(DateTimePicker, HasNoPartsAtDesignTime) {
+    TForm designed(nullptr);
+    designed.SetDesigning(true);
+    auto* picker = new TQV7SkinDateTimePicker(&designed);
+    picker->SetParent(&designed);
+    picker->CreateParts();
+    EXPECT_EQ(picker->GetLabel(), nullptr);
+    EXPECT_EQ(picker->GetCalendarForm(), nullptr);
+    picker->SetDate(Day);
+    EXPECT_EQ(picker->GetText(), L"Mo, 03.02.2014");
+    picker->ReadDateFromInput();
+    EXPECT_EQ(picker->GetDate(), Day);
+}
+
+TEST_F(DateTimePicker, MayGoWithItsCalendarOpen) {
+    Open();
+    Picker().Free();
+    PumpAll();
+    EXPECT_EQ(Form().GetControlCount(), 0);
+}
+
+/// In four tests, since each takes its time.
+class DateTimePickerRounds : public DateTimePicker, public testing::WithParamInterface<int> {};
+INSTANTIATE_TEST_SUITE_P(OfAThousand, DateTimePickerRounds, testing::Range(0, 4));
+
+TEST_P(DateTimePickerRounds, LeaveNothingBehind) {
+    for (int round = 0; round < 250; ++round) {
+        Picker().SetDroppedDown(true);
+        Picker().GetCalendarForm()->Close();
+    }
+    EXPECT_EQ(Picker().GetDate(), Day);
+}
+
+}  // namespace
