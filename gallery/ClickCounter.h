@@ -6,21 +6,19 @@
 
 namespace gallery {
 
-/// A label that counts the clicks on the controls that it is bound to, and says which one was the last.
+/// A label that counts the clicks on controls, and says which one was the last.
 class TClickCounter : public TLabel {
 public:
-    explicit TClickCounter(TComponent* AOwner) : TLabel(AOwner) { ShowCount(); }
-    void CountClicksOf(TControl& control) { control.OnClick = {this, &TClickCounter::Clicked}; }
+    explicit TClickCounter(TComponent* AOwner);
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+    /// Counts every click on the control from now on.
+    void CountClicksOf(TControl& control) { control.OnClick = {this, &TClickCounter::Count}; }
+    /// Counts a click on `sender`, which is a control.
+    void Count(TObject* sender);
 
 private:
-    void Clicked(TObject* sender) {
-        ++FCount;
-        FLast = static_cast<TControl*>(sender)->GetCaption();
-        ShowCount();
-    }
-    void ShowCount() {
-        SetCaption(L"Klicks: " + IntToStr(FCount) + (FCount > 0 ? L", zuletzt „" + FLast + L"“" : String()));
-    }
+    void ShowCount();
     int FCount = 0;
     String FLast;
 };

@@ -16,10 +16,14 @@ void UseFont(TCanvas& canvas, int size, bool bold, TColor color) {
     font.SetColor(color);
 }
 
-int DrawHeading(TCanvas& canvas, int left, int top, int right, StringView text) {
+void DrawTitle(TCanvas& canvas, int left, int top, StringView text) {
     UseFont(canvas, 9, true, GetQV7SkinColorColumnHeaderBG());
     canvas.GetBrush().SetStyle(bsClear);
     canvas.TextOut(left, top, text);
+}
+
+int DrawHeading(TCanvas& canvas, int left, int top, int right, StringView text) {
+    DrawTitle(canvas, left, top, text);
     const int line = top + 18;
     Fill(canvas, {left, line, right, line + 1}, GetQV7SkinColorBackground());
     return line + 11;

@@ -8,8 +8,10 @@ namespace gallery {
 
 /// Sets the canvas' font to Tahoma: `size` in points, black or in another colour.
 void UseFont(TCanvas& canvas, int size, bool bold = false, TColor color = clBlack);
-/// A heading of a part of a page, with a line of the palette's blue-grey below; `right` is where the line
-/// ends. Returns the vertical position where the part's contents start.
+/// A heading of a part of a page.
+void DrawTitle(TCanvas& canvas, int left, int top, StringView text);
+/// The same with a line of the palette's blue-grey below; `right` is where the line ends. Returns the
+/// vertical position where the part's contents start.
 int DrawHeading(TCanvas& canvas, int left, int top, int right, StringView text);
 /// Small grey text, cut with dots at the width of the rectangle.
 void DrawNote(TCanvas& canvas, TRect rect, StringView text, UINT flags = DT_LEFT);

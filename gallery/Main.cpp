@@ -5,7 +5,9 @@
 
 #include "gallery/MainForm.h"
 #include "gallery/Shots.h"
+#include "package/UnitQV7SkinRegister.h"
 #include "platform/vcl/forms/Application.h"
+#include "platform/vcl/forms/StandardClasses.h"
 #include "platform/vcl/graphics/Handles.h"
 
 namespace gallery {
@@ -29,6 +31,8 @@ TOptions ParseOptions(std::span<wchar_t* const> arguments) {
 }
 
 int Run(const TOptions& options) {
+    RegisterStandardClasses();
+    qv7skin::Register();
     TMainForm* form = Application().CreateForm<TMainForm>();
     if (options.ShotFolder.empty()) {
         Application().Run();

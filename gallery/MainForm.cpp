@@ -1,29 +1,26 @@
 #include "gallery/MainForm.h"
 
 #include "gallery/Drawing.h"
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormResources.h"
 #include "skin/UnitQV7SkinColors.h"
 
 namespace gallery {
 
+const TMetaClass& TMainForm::StaticClass() {
+    static const TMetaClass meta = DefineClass<TMainForm>(L"TMainForm", TForm::StaticClass())
+                                       .Component<&TMainForm::FTitle>(L"Title")
+                                       .Component<&TMainForm::FNavigation>(L"Navigation")
+                                       .Method<&TMainForm::PaintTitle>(L"PaintTitle")
+                                       .Method<&TMainForm::NavigationChanged>(L"NavigationChanged");
+    return meta;
+}
+
 TMainForm::TMainForm(TComponent* AOwner) : TForm(AOwner), FPages(GalleryPages().size()) {
-    SetCaption(L"QV7 Skin – Galerie");
-    SetColor(clWhite);
-    SetPosition(poScreenCenter);
-    SetClientWidth(960);
-    SetClientHeight(680);
-
-    FTitle = new TPaintArea(this);
-    FTitle->SetParent(this);
-    FTitle->SetHeight(46);
-    FTitle->SetAlign(alTop);
-    FTitle->OnPaint = {this, &TMainForm::PaintTitle};
-
-    FNavigation = new TNavigation(this);
-    FNavigation->SetParent(this);
-    FNavigation->SetAlign(alLeft);
-    FNavigation->OnChange = {this, &TMainForm::NavigationChanged};
+    RegisterClasses({&TPaintArea::StaticClass(), &TNavigation::StaticClass()});
+    InitInheritedComponent(*this, TForm::StaticClass());
     FNavigation->SelectPage(0);
-    SetActiveControl(FNavigation);
 }
 
 void TMainForm::OpenPage(int index) {

@@ -10,6 +10,8 @@ namespace gallery {
 class TPaintArea : public TCustomControl {
 public:
     explicit TPaintArea(TComponent* AOwner);
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
     /// Canvas and the whole client area.
     TEvent<void(TCanvas&, const TRect&)> OnPaint;
 

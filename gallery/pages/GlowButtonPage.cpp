@@ -6,6 +6,9 @@
 #include "gallery/SamplePicture.h"
 #include "gallery/pages/Pages.h"
 #include "platform/tms/GlowFace.h"
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormResources.h"
 #include "skin/UnitQV7SkinColors.h"
 
 namespace gallery {
@@ -19,42 +22,40 @@ class TGlowButtonPage : public TGalleryPage {
 public:
     explicit TGlowButtonPage(TComponent* AOwner) : TGalleryPage(AOwner) {
         SetColor(GetQV7SkinColorBackground());
-        FCounter = new TClickCounter(this);
-        FCounter->SetTransparent(true);
-        FCounter->SetBounds(24, 596, 400, 16);
-        FCounter->SetParent(this);
-        AddLive(0, L"OK")->SetDefault(true);
-        AddLive(1, L"&Abbrechen")->SetCancel(true);
-        AddLive(2, L"Gesperrt")->SetEnabled(false);
-        AddLive(3, L"Umschalter")->SetButtonStyle(bxsToggle);
-        AddLive(4, L"Gerundet")->SetRounded(true);
-        TQV7SkinButton* pictured = AddLive(5, L"Bild");
+        RegisterClass(TClickCounter::StaticClass());
+        InitInheritedComponent(*this, TGalleryPage::StaticClass());
+        // What the button does not publish.
+        FRoundedButton->SetRounded(true);
         TBitmap picture;
         DrawSamplePicture(picture, 20, 16);
-        pictured->Picture().Assign(&picture);
+        FPictureButton->Picture().Assign(&picture);
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        static const TMetaClass meta =
+            DefineClass<TGlowButtonPage>(L"TGlowButtonPage", TGalleryPage::StaticClass())
+                .Component<&TGlowButtonPage::FCounter>(L"Counter")
+                .Component<&TGlowButtonPage::FRoundedButton>(L"RoundedButton")
+                .Component<&TGlowButtonPage::FPictureButton>(L"PictureButton")
+                .Method<&TGlowButtonPage::ButtonClick>(L"ButtonClick");
+        return meta;
     }
 
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
         Fill(canvas, GetClientRect(), GetColor());
-        DrawTitle(22, L"Alle Zustände");
+        DrawTitle(GetCanvas(), 24, 22, L"Alle Zustände");
         int top = 50;
         for (const TSize size : Sizes) {
             DrawGroups(top, size);
             top += size.Height + 40;
         }
         DrawMagnifiedGroups(390);
-        DrawTitle(506, L"Zum Anfassen");
+        DrawTitle(GetCanvas(), 24, 506, L"Zum Anfassen");
     }
 
 private:
-    void DrawTitle(int top, const wchar_t* text) {
-        UseFont(GetCanvas(), 9, true, GetQV7SkinColorColumnHeaderBG());
-        GetCanvas().GetBrush().SetStyle(bsClear);
-        GetCanvas().TextOut(24, top, text);
-    }
-
     void DrawFace(TBitmap& face, TSize size, int group, const wchar_t* text) {
         face.SetPixelFormat(pf32bit);
         face.SetSize(size.Width, size.Height);
@@ -89,16 +90,11 @@ private:
         }
     }
 
-    TQV7SkinButton* AddLive(int column, const wchar_t* caption) {
-        auto* button = new TQV7SkinButton(this);
-        button->SetBounds(24 + column * 119, 542, 100, 25);
-        button->SetCaption(caption);
-        button->SetParent(this);
-        FCounter->CountClicksOf(*button);
-        return button;
-    }
+    void ButtonClick(TObject* sender) { FCounter->Count(sender); }
 
-    TClickCounter* FCounter;
+    TClickCounter* FCounter = nullptr;
+    TQV7SkinButton* FRoundedButton = nullptr;
+    TQV7SkinButton* FPictureButton = nullptr;
 };
 
 }  // namespace

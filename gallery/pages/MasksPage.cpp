@@ -4,11 +4,13 @@
 #include "gallery/Drawing.h"
 #include "gallery/PaintArea.h"
 #include "gallery/pages/Pages.h"
+#include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/Gradients.h"
 #include "platform/vcl/graphics/Picture.h"
 #include "platform/vcl/stdctrls/Image.h"
 #include "platform/vcl/stdctrls/Memo.h"
-#include "platform/vcl/stdctrls/Panel.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormResources.h"
 #include "skin/UnitGraphicsUtils.h"
 #include "skin/UnitQV7SkinClasses.h"
 #include "skin/UnitQV7SkinColors.h"
@@ -17,17 +19,42 @@
 namespace gallery {
 namespace {
 
+/// The container is a base class for controls of the package; as it stands it is a white rounded panel.
+class TContainer : public TCustomQV7SkinContainer {
+public:
+    using TCustomQV7SkinContainer::TCustomQV7SkinContainer;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        using C = TContainer;
+        static const TMetaClass meta =
+            DefineClass<C>(L"TContainer", TCustomQV7SkinContainer::StaticClass())
+                .Property(L"Caption", &C::GetCaption, &C::SetCaption)
+                .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
+                .Property(L"WhiteBackground", &C::GetWhiteBackground, &C::SetWhiteBackground, false);
+        return meta;
+    }
+};
+
 /// Panels masked in each of the three ways, a container, and a skinner around a text field.
 class TMasksPage : public TGalleryPage {
 public:
     explicit TMasksPage(TComponent* AOwner) : TGalleryPage(AOwner) {
         SetColor(GetQV7SkinColorBackground());
-        AddResourceMask(0, false);
-        AddResourceMask(1, true);
-        AddImagesMask();
-        AddEllipseMask();
-        AddContainer();
-        AddSkinnedMemo();
+        RegisterClasses({&TContainer::StaticClass(), &TPaintArea::StaticClass(),
+                         &TMaskingPanelImagesFromResource::StaticClass(), &TMaskingPanelImages::StaticClass(),
+                         &TMaskingPanelEllipse::StaticClass()});
+        InitInheritedComponent(*this, TGalleryPage::StaticClass());
+        AddImages();
+        FSkinner = std::make_unique<TSkinner>(FMemo);
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        using C = TMasksPage;
+        static const TMetaClass meta = DefineClass<C>(L"TMasksPage", TGalleryPage::StaticClass())
+                                           .Component<&C::FGreenMask>(L"GreenMask")
+                                           .Component<&C::FMemo>(L"Memo")
+                                           .Method<&C::PaintGradient>(L"PaintGradient");
+        return meta;
     }
 
 protected:
@@ -50,8 +77,8 @@ protected:
     /// Masks need a window; it is there when the page is.
     void CreateWnd() override {
         TGalleryPage::CreateWnd();
-        for (TCustomMaskingPanel* mask : FMasks)
-            mask->Mask();
+        for (int i = 0; i < GetComponentCount(); ++i)
+            if (auto* mask = dynamic_cast<TCustomMaskingPanel*>(GetComponent(i))) mask->Mask();
         FSkinner->Resize();
     }
 
@@ -59,47 +86,18 @@ private:
     struct TPlace {
         TRect Outer;
         TRect Title;
-        TRect Inner;
     };
     static TPlace Place(int index) {
         const TRect outer = TRect::OfSize(16 + index % 2 * 370, 16 + index / 2 * 200, 358, 188);
-        return {outer,
-                {outer.Left + 16, outer.Top + 10, outer.Right - 16, outer.Top + 26},
-                {outer.Left + 24, outer.Top + 36, outer.Right - 24, outer.Bottom - 16}};
+        return {outer, {outer.Left + 16, outer.Top + 10, outer.Right - 16, outer.Top + 26}};
     }
 
-    TPanel* AddPanel(int index, TColor color) {
-        auto* panel = new TPanel(this);
-        panel->SetBevelOuter(bvNone);
-        panel->SetColor(color);
-        panel->SetBoundsRect(Place(index).Inner);
-        panel->SetParent(this);
-        return panel;
+    void PaintGradient(TCanvas& canvas, const TRect& rect) {
+        FillGradient(canvas, rect, GetQV7SkinColorLinkText(), 0x00F7E3CE, gdVertical);
     }
 
-    void AddResourceMask(int index, bool white) {
-        auto* mask = new TMaskingPanelImagesFromResource(this);
-        mask->SetWhiteBackground(white);
-        mask->Control = AddPanel(index, 0x00F7E3CE);
-        FMasks.push_back(mask);
-    }
-
-    void AddEllipseMask() {
-        auto* mask = new TMaskingPanelEllipse(this);
-        TPanel* panel = AddPanel(3, GetColor());
-        auto* picture = new TPaintArea(this);
-        picture->SetAlign(alClient);
-        picture->SetParent(panel);
-        picture->OnPaint = [](TCanvas& canvas, const TRect& rect) {
-            FillGradient(canvas, rect, GetQV7SkinColorLinkText(), 0x00F7E3CE, gdVertical);
-        };
-        mask->Control = panel;
-        FMasks.push_back(mask);
-    }
-
-    /// The pieces of a hovered tab, as a host would put pictures of its own on a form.
-    void AddImagesMask() {
-        auto* mask = new TMaskingPanelImages(this);
+    /// The eight pieces of a frame, as a host would put pictures of its own on a form.
+    void AddImages() {
         constexpr std::array fields{
             &TMaskingPanelImages::ImageTopLeft,      &TMaskingPanelImages::ImageTopMiddle,
             &TMaskingPanelImages::ImageTopRight,     &TMaskingPanelImages::ImageBottomLeft,
@@ -111,38 +109,12 @@ private:
                 CreateBmp(FrameResourceName(L"MASKWHITE", AllFramePositions[i]));
             ReplaceColor(piece.get(), clWhite, GetColor());
             image->GetPicture().SetGraphic(piece.get());
-            mask->*fields[i] = image;
+            FGreenMask->*fields[i] = image;
         }
-        mask->Control = AddPanel(2, 0x00D8F0D8);
-        FMasks.push_back(mask);
     }
 
-    void AddContainer() {
-        auto* container = new TContainer(this);
-        container->SetWhiteBackground(true);
-        container->SetBoundsRect(Place(4).Inner);
-        container->SetParent(this);
-        container->SetCaption(L"Inhalt");
-    }
-
-    void AddSkinnedMemo() {
-        auto* memo = new TMemo(this);
-        TRect place = Place(5).Inner;
-        place.Left += 3;
-        memo->SetBoundsRect(place);
-        memo->SetBorderStyle(bsNone);
-        memo->SetText(L"\r\n   Ein gewöhnliches Textfeld.\r\n   Der Skinner rundet es von außen.");
-        memo->SetParent(this);
-        FSkinner = std::make_unique<TSkinner>(memo);
-    }
-
-    /// The container is a base class for controls of the package; as it stands it is a white rounded panel.
-    class TContainer : public TCustomQV7SkinContainer {
-    public:
-        using TCustomQV7SkinContainer::TCustomQV7SkinContainer;
-    };
-
-    std::vector<TCustomMaskingPanel*> FMasks;
+    TMaskingPanelImages* FGreenMask = nullptr;
+    TMemo* FMemo = nullptr;
     std::unique_ptr<TSkinner> FSkinner;
 };
 

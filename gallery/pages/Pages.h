@@ -15,5 +15,16 @@ namespace gallery {
 [[nodiscard]] TGalleryPage* CreateRegionsPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateSkinButtonPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateGlowButtonPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateMessageDialogPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateExplorerBarPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateTabsPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateWhiteTabsPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateToolbarPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateCaptionHeadersPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateOrderFormPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateGaugesPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateLinkLabelsPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateSplittersPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreateMenusPage(TComponent* owner);
 
 }  // namespace gallery

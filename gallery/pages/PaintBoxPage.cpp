@@ -3,7 +3,9 @@
 #include "gallery/Drawing.h"
 #include "gallery/SamplePicture.h"
 #include "gallery/pages/Pages.h"
+#include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/stdctrls/TrackBar.h"
+#include "platform/vcl/streaming/FormResources.h"
 #include "skin/UnitQV7SkinClasses.h"
 #include "skin/UnitQV7SkinColors.h"
 
@@ -19,12 +21,15 @@ public:
         for (std::size_t i = 0; i < FSteps.size(); ++i)
             FSteps[i] = AddBox(TRect::OfSize(24 + static_cast<int>(i) * 145, 69, 132, 160));
         FLive = AddBox({24, 342, 444, 582});
-        FSlider = new TTrackBar(this);
-        FSlider->SetBounds(18, 302, 432, 32);
-        FSlider->SetParams(100, 0, 100);
-        FSlider->SetFrequency(10);
-        FSlider->SetParent(this);
-        FSlider->OnChange = {this, &TPaintBoxPage::SliderChanged};
+        InitInheritedComponent(*this, TGalleryPage::StaticClass());
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        static const TMetaClass meta =
+            DefineClass<TPaintBoxPage>(L"TPaintBoxPage", TGalleryPage::StaticClass())
+                .Component<&TPaintBoxPage::FSlider>(L"Slider")
+                .Method<&TPaintBoxPage::SliderChanged>(L"SliderChanged");
+        return meta;
     }
     [[nodiscard]] int ShotCount() const override { return 2; }
     void PrepareShot(int shot) override { FSlider->SetPosition(shot == 0 ? 100 : 55); }
@@ -87,7 +92,7 @@ private:
 
     std::array<TFlickerFreePaintBox*, std::size(Steps)> FSteps{};
     TFlickerFreePaintBox* FLive;
-    TTrackBar* FSlider;
+    TTrackBar* FSlider = nullptr;
 };
 
 }  // namespace

@@ -4,6 +4,10 @@
 #include "gallery/ClickCounter.h"
 #include "gallery/Drawing.h"
 #include "gallery/pages/Pages.h"
+#include "platform/vcl/controls/PublishedRows.h"
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormResources.h"
 #include "skin/UnitGraphicsUtils.h"
 #include "skin/UnitQV7SkinColors.h"
 
@@ -18,6 +22,18 @@ constexpr TSize Sizes[] = {{100, 25}, {100, 21}, {84, 40}, {150, 60}};
 class TShownButton : public TCustomQV7SkinButton {
 public:
     using TCustomQV7SkinButton::TCustomQV7SkinButton;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        using C = TShownButton;
+        static const TMetaClass meta =
+            DefineClass<C>(L"TShownButton", TCustomQV7SkinButton::StaticClass())
+                .With(StateRows)
+                .With(TabRows)
+                .With(ActionRows)
+                .Property(L"ButtonStyle", &C::GetButtonStyle, &C::SetButtonStyle, bxsPush)
+                .With(MouseRows);
+        return meta;
+    }
     /// The state's picture with the caption in the middle.
     void DrawState(TCanvas& canvas, int left, int top, TButtonExState state) {
         TBitmap picture(GetWidth(), GetHeight(), pf24bit);
@@ -35,16 +51,16 @@ class TSkinButtonPage : public TGalleryPage {
 public:
     explicit TSkinButtonPage(TComponent* AOwner) : TGalleryPage(AOwner) {
         SetColor(GetQV7SkinColorBackground());
-        FCounter = new TClickCounter(this);
-        FCounter->SetTransparent(true);
-        FCounter->SetBounds(24, 596, 400, 16);
-        FCounter->SetParent(this);
-        AddLive(0, L"Speichern");
-        AddLive(1, L"&Drucken");
-        AddLive(2, L"Gesperrt")->SetEnabled(false);
-        AddLive(3, L"Umschalter")->SetButtonStyle(bxsToggle);
-        TShownButton* large = AddLive(4, L"Groß");
-        large->SetBounds(large->GetLeft(), large->GetTop() - 8, 120, 41);
+        RegisterClasses({&TClickCounter::StaticClass(), &TShownButton::StaticClass()});
+        InitInheritedComponent(*this, TGalleryPage::StaticClass());
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        static const TMetaClass meta =
+            DefineClass<TSkinButtonPage>(L"TSkinButtonPage", TGalleryPage::StaticClass())
+                .Component<&TSkinButtonPage::FCounter>(L"Counter")
+                .Method<&TSkinButtonPage::ButtonClick>(L"ButtonClick");
+        return meta;
     }
 
 protected:
@@ -52,23 +68,17 @@ protected:
         TCanvas& canvas = GetCanvas();
         const TRect client = GetClientRect();
         Fill(canvas, client, GetColor());
-        DrawTitle(22, L"Alle Zustände");
+        DrawTitle(GetCanvas(), 24, 22, L"Alle Zustände");
         int top = 50;
         for (const TSize size : Sizes) {
             DrawStates(top, size);
             top += size.Height + 40;
         }
         DrawMagnifiedStates(390);
-        DrawTitle(506, L"Zum Anfassen");
+        DrawTitle(GetCanvas(), 24, 506, L"Zum Anfassen");
     }
 
 private:
-    void DrawTitle(int top, const wchar_t* text) {
-        UseFont(GetCanvas(), 9, true, GetQV7SkinColorColumnHeaderBG());
-        GetCanvas().GetBrush().SetStyle(bsClear);
-        GetCanvas().TextOut(24, top, text);
-    }
-
     void DrawStates(int top, TSize size) {
         constexpr int perRow = 6;
         TShownButton button(nullptr);
@@ -99,16 +109,9 @@ private:
         }
     }
 
-    TShownButton* AddLive(int column, const wchar_t* caption) {
-        auto* button = new TShownButton(this);
-        button->SetBounds(24 + column * 119, 542, 100, 25);
-        button->SetCaption(caption);
-        button->SetParent(this);
-        FCounter->CountClicksOf(*button);
-        return button;
-    }
+    void ButtonClick(TObject* sender) { FCounter->Count(sender); }
 
-    TClickCounter* FCounter;
+    TClickCounter* FCounter = nullptr;
 };
 
 }  // namespace

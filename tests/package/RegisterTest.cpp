@@ -72,4 +72,23 @@ TEST(Register, ThePackageExportsItByName) {
     EXPECT_EQ(GetProcAddress(QV7SkinModule(), "Register") != nullptr, isLibrary);
 }
 
+TEST(Register, TheLoadedPackageCanBeToldTo) {
+    // As a design environment does it, which knows the module only.
+    const HMODULE module = LoadLibraryW(L"QV7Skin.dll");
+    if (module) {
+        reinterpret_cast<void (*)()>(reinterpret_cast<void*>(GetProcAddress(module, "Register")))();
+        FreeLibrary(module);
+    } else {
+        ASSERT_EQ(QV7SkinModule(), GetModuleHandleW(nullptr)) << "only a static build has none";
+        Register();
+    }
+    std::size_t shown = 0;
+    for (const TRegisteredPage& page : RegisteredPages())
+        if (page.Name == L"QV7") shown = page.Classes.size();
+    std::size_t expected = 0;
+    for (const TPaletteEntry& entry : PaletteEntries())
+        expected += entry.Class ? 1 : 0;
+    EXPECT_EQ(shown, expected);
+}
+
 }  // namespace
