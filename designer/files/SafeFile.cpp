@@ -1,0 +1,69 @@
+#include "designer/files/SafeFile.h"
+
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Streams.h"
+
+namespace designer {
+namespace {
+
+/// A file handle that is closed at the end.
+class TFileHandle {
+public:
+    explicit TFileHandle(HANDLE handle) : FHandle(handle) {}
+    ~TFileHandle() { Close(); }
+    TFileHandle(const TFileHandle&) = delete;
+    TFileHandle& operator=(const TFileHandle&) = delete;
+    [[nodiscard]] bool IsOpen() const { return FHandle != INVALID_HANDLE_VALUE; }
+    [[nodiscard]] HANDLE Get() const { return FHandle; }
+    void Close() {
+        if (IsOpen()) ::CloseHandle(FHandle);
+        FHandle = INVALID_HANDLE_VALUE;
+    }
+
+private:
+    HANDLE FHandle;
+};
+
+bool WriteAll(HANDLE file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        constexpr std::size_t most = 1u << 30;
+        DWORD written = 0;
+        if (!::WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size() < most ? bytes.size() : most),
+                         &written, nullptr))
+            return false;
+        bytes.remove_prefix(written);
+    }
+    return ::FlushFileBuffers(file) != FALSE;
+}
+
+}  // namespace
+
+void WriteFileSafely(const String& fileName, std::string_view bytes) {
+    const String beside = fileName + L".neu";
+    TFileHandle file(::CreateFileW(beside.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
+                                   FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.IsOpen()) throw EFCreateError(Format(L"Cannot create file \"%s\"", beside));
+    const bool written = WriteAll(file.Get(), bytes);
+    file.Close();
+    constexpr DWORD replace = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    if (!written || !::MoveFileExW(beside.c_str(), fileName.c_str(), replace)) {
+        ::DeleteFileW(beside.c_str());
+        throw EWriteError(Format(L"Cannot write file \"%s\"", fileName));
+    }
+}
+
+std::string ReadWholeFile(const String& fileName) {
+    TMemoryStream stream;
+    stream.LoadFromFile(fileName);
+    const auto bytes = stream.GetMemory();
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+unsigned long long FileTimeOf(const String& fileName) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!::GetFileAttributesExW(fileName.c_str(), GetFileExInfoStandard, &data)) return 0;
+    return static_cast<unsigned long long>(data.ftLastWriteTime.dwHighDateTime) << 32 |
+           data.ftLastWriteTime.dwLowDateTime;
+}
+
+}  // namespace designer

@@ -1,0 +1,312 @@
+#include "designer/inspector/InspectorGrid.h"
+
+#include <algorithm>
+
+#include "designer/inspector/PropertyEditors.h"
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/graphics/Brush.h"
+#include "platform/vcl/graphics/Canvas.h"
+#include "platform/vcl/graphics/Font.h"
+#include "platform/vcl/graphics/Pen.h"
+#include "platform/vcl/menus/MenuItem.h"
+#include "platform/vcl/menus/PopupMenu.h"
+#include "platform/vcl/stdctrls/Edit.h"
+#include "skin/UnitQV7SkinColors.h"
+
+namespace designer {
+namespace {
+
+constexpr int Indent = 12;
+constexpr int ExpanderSize = 9;
+constexpr int ButtonWidth = 18;
+constexpr TColor ChosenGround = 0x00F0E7EA;
+constexpr TColor LineColor = 0x00F0EAE7;
+
+}  // namespace
+
+const TMetaClass& TInspectorGrid::StaticClass() {
+    static const TMetaClass meta =
+        DefineClass<TInspectorGrid>(L"TInspectorGrid", TCustomControl::StaticClass())
+            .Property(L"Align", &TInspectorGrid::GetAlign, &TInspectorGrid::SetAlign, alNone);
+    return meta;
+}
+
+TInspectorGrid::TInspectorGrid(TComponent* AOwner)
+    : TCustomControl(AOwner), FEditor(new TEdit(this)), FMenu(new TPopupMenu(this)) {
+    ControlStyle = ControlStyle + TControlStyle{csOpaque};
+    SetColor(GetQV7SkinColorCaption());
+    SetDoubleBuffered(true);
+    FEditor->SetBorderStyle(bsNone);
+    FEditor->SetAutoSize(false);
+    FEditor->SetVisible(false);
+    FEditor->OnKeyDown = {this, &TInspectorGrid::EditorKeyDown};
+    FEditor->OnExit = {this, &TInspectorGrid::EditorExit};
+    FEditor->SetParent(this);
+}
+
+TInspectorGrid::~TInspectorGrid() {
+    FEditor->OnExit.Clear();
+}
+
+void TInspectorGrid::SetList(TPropertyList* list) {
+    Accept();
+    FList = list;
+    UpdateLines();
+}
+
+void TInspectorGrid::UpdateLines() {
+    const int count = FList ? static_cast<int>(FList->Lines().size()) : 0;
+    SetHeight(std::max(count, 1) * LineHeight);
+    PlaceEditor();
+    Invalidate();
+}
+
+int TInspectorGrid::IndexOfChosen() const {
+    if (!FList || FChosen.empty()) return -1;
+    const auto& lines = FList->Lines();
+    const auto place = std::ranges::find(lines, FChosen, &TPropertyLine::Path);
+    return place == lines.end() ? -1 : static_cast<int>(place - lines.begin());
+}
+
+const TPropertyLine* TInspectorGrid::ChosenLine() const {
+    const int index = IndexOfChosen();
+    return index < 0 ? nullptr : &FList->Lines()[static_cast<std::size_t>(index)];
+}
+
+void TInspectorGrid::Choose(const String& path) {
+    Accept();
+    FChosen = path;
+    PlaceEditor();
+    Invalidate();
+}
+
+TRect TInspectorGrid::LineRect(int index) const {
+    return TRect::OfSize(0, index * LineHeight, GetWidth(), LineHeight);
+}
+
+TRect TInspectorGrid::ButtonRect(int index) const {
+    const TRect line = LineRect(index);
+    return {line.Right - ButtonWidth, line.Top, line.Right, line.Bottom - 1};
+}
+
+bool TInspectorGrid::HasButton(const TPropertyLine& line) const {
+    return HasValueEditor(line) || !FList->Choices(line).empty();
+}
+
+// --- painting
+
+void TInspectorGrid::Paint() {
+    TCanvas& canvas = GetCanvas();
+    canvas.GetBrush().SetStyle(bsSolid);
+    canvas.GetBrush().SetColor(GetColor());
+    canvas.FillRect(GetClientRect());
+    if (!FList) return;
+    const TRect area = canvas.GetClipRect();
+    const int count = static_cast<int>(FList->Lines().size());
+    const int first = std::max(0, area.Top / LineHeight);
+    const int last = std::min(count - 1, (area.Bottom - 1) / LineHeight);
+    for (int i = first; i <= last; ++i)
+        DrawLine(i);
+}
+
+void TInspectorGrid::DrawLine(int index) {
+    TCanvas& canvas = GetCanvas();
+    const TPropertyLine& line = FList->Lines()[static_cast<std::size_t>(index)];
+    const TRect rect = LineRect(index);
+    const bool isChosen = line.Path == FChosen;
+    if (isChosen) {
+        canvas.GetBrush().SetColor(ChosenGround);
+        canvas.FillRect(rect);
+    }
+    canvas.GetPen().SetColor(LineColor);
+    canvas.MoveTo(rect.Left, rect.Bottom - 1);
+    canvas.LineTo(rect.Right, rect.Bottom - 1);
+    canvas.MoveTo(ValueLeft() - 1, rect.Top);
+    canvas.LineTo(ValueLeft() - 1, rect.Bottom);
+
+    const int left = 4 + line.Depth * Indent;
+    if (line.CanExpand)
+        DrawExpander(
+            TRect::OfSize(left, rect.Top + (LineHeight - ExpanderSize) / 2, ExpanderSize, ExpanderSize),
+            line.IsExpanded);
+    canvas.GetBrush().SetStyle(bsClear);
+    TFont& font = canvas.GetFont();
+    font.Assign(&GetFont());
+    font.SetColor(GetQV7SkinColorWindowText());
+    constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
+    TRect name{left + ExpanderSize + 4, rect.Top, ValueLeft() - 3, rect.Bottom - 1};
+    canvas.TextRect(name, line.Name, format);
+    font.SetStyle(line.IsDefault ? TFontStyles{} : TFontStyles{fsBold});
+    if (line.IsReadOnly) font.SetColor(clGrayText);
+    TRect value{ValueLeft() + 3, rect.Top, rect.Right - 2, rect.Bottom - 1};
+    if (isChosen && HasButton(line)) value.Right -= ButtonWidth;
+    canvas.TextRect(value, line.Text, format);
+    canvas.GetBrush().SetStyle(bsSolid);
+    if (!isChosen || !HasButton(line)) return;
+    TRect button = ButtonRect(index);
+    font.SetStyle({});
+    font.SetColor(GetQV7SkinColorLinkText());
+    const bool opensWindow = HasValueEditor(line) && line.Row->Kind() == TPropertyKind::Nested;
+    canvas.GetBrush().SetStyle(bsClear);
+    canvas.TextRect(button, opensWindow ? L"…" : L"\u25BE", DT_SINGLELINE | DT_VCENTER | DT_CENTER);
+    canvas.GetBrush().SetStyle(bsSolid);
+}
+
+void TInspectorGrid::DrawExpander(const TRect& box, bool isExpanded) {
+    TCanvas& canvas = GetCanvas();
+    canvas.GetBrush().SetColor(GetQV7SkinColorCaption());
+    canvas.GetPen().SetColor(GetQV7SkinColorLinkText());
+    canvas.Rectangle(box.Left, box.Top, box.Right, box.Bottom);
+    const int middleX = box.Left + ExpanderSize / 2;
+    const int middleY = box.Top + ExpanderSize / 2;
+    canvas.MoveTo(box.Left + 2, middleY);
+    canvas.LineTo(box.Right - 2, middleY);
+    if (isExpanded) return;
+    canvas.MoveTo(middleX, box.Top + 2);
+    canvas.LineTo(middleX, box.Bottom - 2);
+}
+
+// --- input
+
+void TInspectorGrid::Dispatch(TMessage& message) {
+    if (message.Msg == WM_SETFOCUS && FEditor->GetVisible()) {
+        TCustomControl::Dispatch(message);
+        FEditor->SetFocus();
+        return;
+    }
+    TCustomControl::Dispatch(message);
+}
+
+void TInspectorGrid::Resize() {
+    const TLifeGuard guard(*this);
+    TCustomControl::Resize();
+    if (guard.IsAlive()) PlaceEditor();
+}
+
+void TInspectorGrid::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+    const TLifeGuard guard(*this);
+    TCustomControl::MouseDown(button, shift, x, y);
+    if (!guard.IsAlive() || !FList || button != mbLeft) return;
+    const int index = y / LineHeight;
+    if (index >= static_cast<int>(FList->Lines().size())) return;
+    const TPropertyLine line = FList->Lines()[static_cast<std::size_t>(index)];
+    Choose(line.Path);
+    const int left = 4 + line.Depth * Indent;
+    if (line.CanExpand && x >= left && x < left + ExpanderSize) {
+        FList->SetExpanded(line.Path, !line.IsExpanded);
+        return UpdateLines();
+    }
+    if (HasButton(line) && ButtonRect(index).Contains({x, y})) return DropDown();
+    if (FEditor->GetVisible()) FEditor->SetFocus();
+}
+
+/// Edits in a window where there is one, opens and closes what holds others, else goes on to the next value.
+void TInspectorGrid::DblClick() {
+    const TLifeGuard guard(*this);
+    TCustomControl::DblClick();
+    const TPropertyLine* line = guard.IsAlive() ? ChosenLine() : nullptr;
+    if (!line) return;
+    if (HasValueEditor(*line)) return OnEditValue(*line);
+    if (line->CanExpand) {
+        FList->SetExpanded(line->Path, !line->IsExpanded);
+        return UpdateLines();
+    }
+    const std::vector<String> choices = FList->Choices(*line);
+    if (choices.empty()) return;
+    const auto place = std::ranges::find(choices, line->Text);
+    SetValue(place == choices.end() || place + 1 == choices.end() ? choices.front() : *(place + 1));
+}
+
+void TInspectorGrid::PlaceEditor() {
+    const int index = IndexOfChosen();
+    const TPropertyLine* line = ChosenLine();
+    if (!line || line->IsReadOnly || line->Element >= 0) return FEditor->Hide();
+    const TRect rect = LineRect(index);
+    const int right = HasButton(*line) ? rect.Right - ButtonWidth : rect.Right - 2;
+    FEditor->SetBounds(ValueLeft() + 2, rect.Top + 3, right - ValueLeft() - 2, LineHeight - 5);
+    FEditor->SetColor(ChosenGround);
+    FEditor->GetFont().SetStyle(line->IsDefault ? TFontStyles{} : TFontStyles{fsBold});
+    if (FEditor->GetText() != line->Text) FEditor->SetText(line->Text);
+    FEditor->SetModified(false);
+    FEditor->Show();
+}
+
+void TInspectorGrid::EditorKeyDown(TObject*, WORD& key, TShiftState shift) {
+    switch (key) {
+        case VK_RETURN:
+            Accept();
+            FEditor->SelectAll();
+            break;
+        case VK_ESCAPE:
+            if (const TPropertyLine* line = ChosenLine()) FEditor->SetText(line->Text);
+            FEditor->SetModified(false);
+            FEditor->SelectAll();
+            break;
+        case VK_UP:
+            ChooseBy(-1);
+            break;
+        case VK_DOWN:
+            if (shift.Contains(ssAlt))
+                DropDown();
+            else
+                ChooseBy(1);
+            break;
+        default:
+            return;
+    }
+    key = 0;
+}
+
+void TInspectorGrid::EditorExit(TObject*) {
+    Accept();
+}
+
+void TInspectorGrid::ChooseBy(int delta) {
+    const int count = static_cast<int>(FList->Lines().size());
+    const int index = std::clamp(IndexOfChosen() + delta, 0, count - 1);
+    Choose(FList->Lines()[static_cast<std::size_t>(index)].Path);
+    if (FEditor->GetVisible()) FEditor->SetFocus();
+}
+
+void TInspectorGrid::Accept() {
+    const TPropertyLine* line = ChosenLine();
+    if (!line || FAccepting || !FEditor->GetVisible() || !FEditor->GetModified()) return;
+    if (FEditor->GetText() != line->Text) SetValue(FEditor->GetText());
+}
+
+void TInspectorGrid::SetValue(const String& text) {
+    const TLifeGuard guard(*this);
+    const String path = FChosen;
+    FAccepting = true;
+    try {
+        FList->SetText(path, text);
+    } catch (const Exception& error) {
+        FList->Refresh();
+        OnRefused(error.Message());
+    }
+    if (!guard.IsAlive()) return;
+    FAccepting = false;
+    FEditor->SetModified(false);
+    UpdateLines();
+}
+
+void TInspectorGrid::DropDown() {
+    const TPropertyLine* line = ChosenLine();
+    if (!line) return;
+    if (line->Row->Kind() == TPropertyKind::Nested) return OnEditValue(*line);
+    FMenu->GetItems().Clear();
+    for (const String& choice : FList->Choices(*line)) {
+        auto* item = new TMenuItem(FMenu);
+        item->SetCaption(choice);
+        item->SetRadioItem(true);
+        item->SetChecked(choice == line->Text);
+        item->OnClick = [this, choice](TObject*) { SetValue(choice); };
+        FMenu->GetItems().Add(item);
+    }
+    const TRect rect = LineRect(IndexOfChosen());
+    const TPoint place = ClientToScreen({ValueLeft(), rect.Bottom});
+    FMenu->Popup(place.X, place.Y);
+}
+
+}  // namespace designer

@@ -1,0 +1,135 @@
+#include "designer/model/Clipping.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "designer/model/Naming.h"
+#include "platform/vcl/core/PublishedProperty.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormText.h"
+
+namespace designer {
+namespace {
+
+void Collect(const TFormObject& object, const TSelection& selection, const TComponent& root, String& text) {
+    for (const TFormObject& child : object.Children) {
+        if (selection.Contains(root.FindComponent(child.Name)))
+            text += FromUtf8(FormToText(child));
+        else
+            Collect(child, selection, root, text);
+    }
+}
+
+/// Gives the objects of a pasted text names that are free in the form.
+class TRenaming {
+public:
+    explicit TRenaming(const TFormDocument& document) : FDocument(document) {}
+
+    void Rename(TFormObject& object) {
+        if (IsTaken(object.Name)) {
+            String name = FreeName(object.ClassName, [this](const String& free) { return IsTaken(free); });
+            FNames.emplace(object.Name, name);
+            RenameCaption(object, name);
+            object.Name = std::move(name);
+        }
+        FUsed.push_back(object.Name);
+        for (TFormObject& child : object.Children)
+            Rename(child);
+    }
+
+    void FollowReferences(TFormObject& object) const {
+        const TMetaClass* meta = GetClass(object.ClassName);
+        for (TFormProperty& property : object.Properties) {
+            const TPublishedProperty* row = meta ? meta->FindProperty(property.Name) : nullptr;
+            auto* name = std::get_if<TFormIdent>(&property.Value.Content);
+            if (!row || row->Kind() != TPropertyKind::Component || !name) continue;
+            if (const auto renamed = FNames.find(name->Name); renamed != FNames.end())
+                name->Name = renamed->second;
+        }
+        for (TFormObject& child : object.Children)
+            FollowReferences(child);
+    }
+
+private:
+    [[nodiscard]] bool IsTaken(const String& name) const {
+        const auto same = [&name](const String& used) { return SameText(used, name); };
+        return name.empty() || SameText(name, FDocument.Root.Name) || FDocument.Root.FindObject(name) ||
+               std::ranges::any_of(FUsed, same);
+    }
+    /// A caption that is just the name follows it.
+    static void RenameCaption(TFormObject& object, const String& name) {
+        for (TFormProperty& property : object.Properties) {
+            auto* text = std::get_if<String>(&property.Value.Content);
+            if (text && *text == object.Name && SameText(property.Name, L"Caption")) *text = name;
+        }
+    }
+
+    const TFormDocument& FDocument;
+    std::map<String, String> FNames;
+    std::vector<String> FUsed;
+};
+
+std::int64_t* NumberOf(TFormObject& object, StringView name) {
+    const auto place = std::ranges::find_if(
+        object.Properties, [&](const auto& property) { return SameText(property.Name, name); });
+    return place == object.Properties.end() ? nullptr : std::get_if<std::int64_t>(&place->Value.Content);
+}
+
+/// Moves the object until none of its siblings has the same corner.
+void MoveOffSiblings(TFormObject& object, std::vector<TFormObject>& siblings, int shift) {
+    std::int64_t* left = NumberOf(object, L"Left");
+    std::int64_t* top = NumberOf(object, L"Top");
+    if (!left || !top) return;
+    const auto sameCorner = [&](TFormObject& other) {
+        const std::int64_t* otherLeft = NumberOf(other, L"Left");
+        const std::int64_t* otherTop = NumberOf(other, L"Top");
+        return otherLeft && otherTop && *otherLeft == *left && *otherTop == *top;
+    };
+    while (std::ranges::any_of(siblings, sameCorner)) {
+        *left += shift;
+        *top += shift;
+    }
+}
+
+TFormObject* FindObject(TFormObject& object, const String& name) {
+    for (TFormObject& child : object.Children) {
+        if (SameText(child.Name, name)) return &child;
+        if (TFormObject* found = FindObject(child, name)) return found;
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+String CopySelection(TDesignDocument& document) {
+    String text;
+    Collect(document.Document().Root, document.Selection(), document.Root(), text);
+    return text;
+}
+
+void PasteText(TDesignDocument& document, StringView text, const TComponent& parent, int shift) {
+    const TFormDocument pasted =
+        ParseFormText(L"object Clipboard: TComponent\r\n" + String(text) + L"\r\nend\r\n");
+    TFormDocument changed = document.Document();
+    TRenaming renaming(changed);
+    std::vector<TFormObject> objects = pasted.Root.Children;
+    for (TFormObject& object : objects)
+        renaming.Rename(object);
+
+    TFormObject* target =
+        &parent == &document.Root() ? &changed.Root : FindObject(changed.Root, parent.GetName());
+    if (!target) return;
+    std::vector<String> names;
+    for (TFormObject& object : objects) {
+        renaming.FollowReferences(object);
+        if (shift > 0) MoveOffSiblings(object, target->Children, shift);
+        names.push_back(object.Name);
+        target->Children.push_back(std::move(object));
+    }
+    document.SetDocument(L"Einfügen", changed);
+    document.Selection().SetNames(names, document.Root());
+}
+
+}  // namespace designer

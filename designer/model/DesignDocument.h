@@ -1,0 +1,68 @@
+#pragma once
+
+#include <functional>
+
+#include "designer/model/DesignedForm.h"
+#include "designer/model/History.h"
+#include "designer/model/Selection.h"
+
+namespace designer {
+
+/// A form file being edited: its components, its text, what is chosen, and every edit so far.
+///
+/// The text is what counts. After each edit the components are written to it, and undoing an edit brings the
+/// components back to the text before, so that nothing can get lost on the way: what the components do not
+/// carry over by a change of their properties is read anew.
+class TDesignDocument {
+public:
+    TDesignDocument();
+    ~TDesignDocument();
+    TDesignDocument(const TDesignDocument&) = delete;
+    TDesignDocument& operator=(const TDesignDocument&) = delete;
+
+    [[nodiscard]] TDesignedForm& Form() { return FForm; }
+    [[nodiscard]] TDesignRoot& Root() const { return FForm.Root(); }
+    [[nodiscard]] TSelection& Selection() { return FSelection; }
+    [[nodiscard]] const THistory& History() const { return FHistory; }
+    /// The form file as text, as of the last edit.
+    [[nodiscard]] const std::string& Text() const { return FText; }
+    [[nodiscard]] bool IsModified() const { return !FHistory.IsSaved(); }
+    void MarkSaved();
+
+    /// Begins with another form file, without history. What is wrong in it stands in `Form().Problems()`.
+    void Begin(const TFormDocument& document);
+    /// Begins with an empty form.
+    void BeginNew();
+
+    /// Runs a change to the components and takes it into the history as one edit, if it changed anything.
+    /// Edits within it belong to it. When the change raises, everything is as before, and the error goes on.
+    void Edit(const String& label, const std::function<void()>& change);
+    /// Makes another text the form file, as one edit. Raises EFormError when it can't be parsed; the form
+    /// stays as it was then.
+    void SetText(const String& label, const std::string& text);
+    /// The same with a document.
+    void SetDocument(const String& label, const TFormDocument& document);
+    [[nodiscard]] TFormDocument Document() const { return FForm.Write(); }
+    void Undo();
+    void Redo();
+    [[nodiscard]] bool IsEditing() const { return FDepth > 0; }
+
+    /// Something in the form or in the state of the history has changed.
+    TEvent<void()> OnChange;
+    /// All components were made anew.
+    TEvent<void()> OnRebuilt;
+
+private:
+    void Show(const std::string& text);
+    void Rebuild(const TFormDocument& document);
+    void Commit(const String& label);
+    void NoteRemoved(TComponent* component) { FSelection.Forget(component); }
+
+    TDesignedForm FForm;
+    TSelection FSelection;
+    THistory FHistory;
+    std::string FText;
+    int FDepth = 0;
+};
+
+}  // namespace designer

@@ -1,0 +1,145 @@
+#include "designer/model/DesignedForm.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "designer/model/FormPatch.h"
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Identifiers.h"
+#include "platform/vcl/core/PublishedProperty.h"
+#include "platform/vcl/streaming/Writer.h"
+
+namespace designer {
+namespace {
+
+/// A property of an object, or of one that it holds.
+struct TPropertyPlace {
+    TPersistent* Holder = nullptr;
+    const TPublishedProperty* Row = nullptr;
+};
+
+TPropertyPlace FindProperty(TPersistent& object, StringView path) {
+    TPersistent* holder = &object;
+    for (std::size_t point = path.find(L'.'); point != StringView::npos; point = path.find(L'.')) {
+        const TPublishedProperty* row = holder->ClassType().FindProperty(path.substr(0, point));
+        if (!row || row->Kind() != TPropertyKind::Nested) return {};
+        holder = std::get<TPersistent*>(row->Get(*holder));
+        if (!holder) return {};
+        path.remove_prefix(point + 1);
+    }
+    return {holder, holder->ClassType().FindProperty(path)};
+}
+
+/// Gives the property the value that form files leave out; false when there is none.
+bool ResetProperty(TPersistent& object, StringView path) {
+    const TPropertyPlace place = FindProperty(object, path);
+    if (!place.Row || place.Row->IsReadOnly()) return false;
+    switch (place.Row->Kind()) {
+        case TPropertyKind::Event:
+            place.Row->Event(*place.Holder)->Clear();
+            return true;
+        case TPropertyKind::Component:
+            place.Row->Set(*place.Holder, static_cast<TPersistent*>(nullptr));
+            return true;
+        case TPropertyKind::Nested:
+            return false;
+        default:
+            if (!place.Row->Default()) return false;
+            place.Row->Set(*place.Holder, *place.Row->Default());
+            return true;
+    }
+}
+
+void ReplaceNumber(TFormObject& object, StringView name, int value) {
+    const auto place =
+        std::ranges::find_if(object.Properties, [&](const auto& p) { return SameText(p.Name, name); });
+    if (place != object.Properties.end()) place->Value.Content = std::int64_t{value};
+}
+
+}  // namespace
+
+TDesignedForm::TDesignedForm() {
+    TFormDocument document;
+    document.Root.Name = L"Form1";
+    document.Root.ClassName = L"TForm1";
+    Load(document);
+    FRoot->SetCaption(L"Form1");
+}
+
+TDesignedForm::~TDesignedForm() = default;
+
+void TDesignedForm::Load(const TFormDocument& document) {
+    auto root = std::make_unique<TDesignRoot>();
+    TReader reader(document);
+    reader.CollectProblems = true;
+    reader.ReadRootComponent(root.get());
+    // Other forms of this program may have the name, which does not matter here.
+    if (!document.Root.Name.empty()) root->SetName(document.Root.Name);
+
+    FFormClassName = document.Root.ClassName;
+    FPlace = {root->GetLeft(), root->GetTop()};
+    FProblems = reader.GetProblems();
+    FUnread = reader.GetUnreadProperties();
+    if (FRoot) {
+        root->SetBounds(FRoot->GetLeft(), FRoot->GetTop(), root->GetWidth(), root->GetHeight());
+        root->SetDesignHook(FRoot->GetDesignHook());
+        root->SetParentWindow(FRoot->GetParentWindow());
+    }
+    root->OnRemove = {this, &TDesignedForm::NoteRemoved};
+    // The old components go with the root that leaves here.
+    std::swap(FRoot, root);
+}
+
+bool TDesignedForm::Patch(const TFormDocument& from, const TFormDocument& to) {
+    if (!FProblems.empty() || from.Root.Name != to.Root.Name) return false;
+    std::optional<TFormPatch> patch = TFormPatch::Between(from, to);
+    if (!patch) return false;
+    const auto find = [this](const String& name) -> TComponent* {
+        return name.empty() ? FRoot.get() : FRoot->FindComponent(name);
+    };
+    try {
+        for (const String& name : patch->Removed)
+            if (TComponent* component = find(name)) component->Free();
+        for (const TFormPatch::TReset& reset : patch->Resets) {
+            TComponent* component = find(reset.Component);
+            if (!component || !ResetProperty(*component, reset.Property)) return false;
+        }
+        const TPoint corner{FRoot->GetLeft(), FRoot->GetTop()};
+        TFormDocument changes{std::move(patch->Changes), to.FileName};
+        TReader(changes).ReadRootComponent(FRoot.get());
+        if (changes.Root.FindProperty(L"Left")) FPlace.X = FRoot->GetLeft();
+        if (changes.Root.FindProperty(L"Top")) FPlace.Y = FRoot->GetTop();
+        FRoot->SetBounds(corner.X, corner.Y, FRoot->GetWidth(), FRoot->GetHeight());
+        for (const TFormPatch::TOrder& order : patch->Orders) {
+            TComponent* parent = find(order.Parent);
+            for (int i = 0; const String& name : order.Children)
+                if (TComponent* child = find(name)) parent->SetChildOrder(child, i++);
+        }
+    } catch (const std::exception&) {
+        return false;
+    }
+    return true;
+}
+
+TFormDocument TDesignedForm::Write() const {
+    TWriter writer;
+    writer.UnreadProperties = &FUnread;
+    TFormDocument document = writer.WriteRootComponent(*FRoot);
+    document.Root.ClassName = FFormClassName;
+    ReplaceNumber(document.Root, L"Left", FPlace.X);
+    ReplaceNumber(document.Root, L"Top", FPlace.Y);
+    return document;
+}
+
+void TDesignedForm::SetFormClassName(const String& name) {
+    if (!IsValidIdent(name)) throw EComponentError(Format(L"'%s' is not a valid component name", name));
+    FFormClassName = name;
+}
+
+void TDesignedForm::NoteRemoved(TComponent* component) {
+    std::erase_if(FUnread,
+                  [component](const TUnreadProperty& unread) { return unread.Component == component; });
+    OnRemove(component);
+}
+
+}  // namespace designer

@@ -1,0 +1,293 @@
+#include "designer/surface/DesignSurface.h"
+
+#include "designer/model/Arranging.h"
+#include "designer/model/Placing.h"
+#include "designer/surface/Handles.h"
+#include "platform/vcl/controls/AppServices.h"
+#include "platform/vcl/controls/Mouse.h"
+#include "platform/vcl/graphics/Brush.h"
+#include "platform/vcl/graphics/Canvas.h"
+#include "skin/UnitQV7SkinColors.h"
+
+namespace designer {
+namespace {
+
+/// Pixels between the form and the edges of the surface.
+constexpr int Margin = 16;
+
+/// True for the parts of a control that a designer shows as one.
+bool IsPartOf(const TControl& control, const TComponent& root) {
+    return control.GetOwner() != &root;
+}
+
+}  // namespace
+
+TDesignSurface::TDesignSurface(TComponent* AOwner, TDesignDocument& document)
+    : TCustomControl(AOwner),
+      FDocument(document),
+      FHandles(GetQV7SkinColorLinkText(), GetQV7SkinColorCaption()),
+      FMarks(GetQV7SkinColorLinkVisited(), GetQV7SkinColorCaption()),
+      FGuides(GetQV7SkinColorLinkText(), GetQV7SkinColorLinkText()),
+      FBand(GetQV7SkinColorLinkText(), GetQV7SkinColorLinkText()) {
+    // A drag holds the mouse itself; the end of a press must not take it away before the drop.
+    ControlStyle = ControlStyle + TControlStyle{csOpaque} - TControlStyle{csCaptureMouse};
+    SetColor(GetQV7SkinColorBackground());
+    SetTabStop(true);
+    FDocument.OnRebuilt = {this, &TDesignSurface::AdoptRoot};
+}
+
+TDesignSurface::~TDesignSurface() {
+    FDocument.OnRebuilt.Clear();
+    FIcons.Clear();
+    Root().SetDesignHook(nullptr);
+    Root().SetParentWindow(nullptr);
+}
+
+void TDesignSurface::CreateWnd() {
+    TCustomControl::CreateWnd();
+    AdoptRoot();
+}
+
+/// Takes the form's window in, after it was made anew as well.
+void TDesignSurface::AdoptRoot() {
+    if (!HandleAllocated()) return;
+    FDrag = TDrag::None;
+    FHandles.Clear();
+    FMarks.Clear();
+    FGuides.Clear();
+    FBand.Clear();
+    FIcons.Clear();
+    TDesignRoot& root = Root();
+    root.SetDesignHook(this);
+    root.SetParentWindow(WindowHandle());
+    root.SetBounds(Margin, Margin, root.GetWidth(), root.GetHeight());
+    ::ShowWindow(root.WindowHandle(), SW_SHOWNA);
+    FitToRoot();
+    UpdateMarks();
+}
+
+void TDesignSurface::FitToRoot() {
+    SetBounds(GetLeft(), GetTop(), Root().GetWidth() + 2 * Margin, Root().GetHeight() + 2 * Margin);
+}
+
+void TDesignSurface::RootResized() {
+    FDocument.Edit(L"Größe ändern", [] {});
+    FitToRoot();
+    UpdateMarks();
+}
+
+void TDesignSurface::SetTool(const TMetaClass* value) {
+    CancelDrag();
+    FTool = value;
+}
+
+// --- what stands where
+
+TControl& TDesignSurface::ControlAt(TPoint point) const {
+    TControl* control = Root().ControlAtPos(point, true, true, true);
+    while (control && control != &Root() && IsPartOf(*control, Root()))
+        control = control->GetParent();
+    return control ? *control : Root();
+}
+
+TComponent* TDesignSurface::ItemAt(TPoint point) const {
+    for (int i = Root().GetComponentCount() - 1; i >= 0; --i) {
+        TComponent* component = Root().GetComponent(i);
+        if (TComponentIcons::IsShownByIcon(*component) &&
+            TComponentIcons::PlaceOf(*component).Contains(point))
+            return component;
+    }
+    TControl& control = ControlAt(point);
+    return &control == &Root() ? nullptr : &control;
+}
+
+TRect TDesignSurface::PlaceInForm(const TComponent& component) const {
+    const auto* control = dynamic_cast<const TControl*>(&component);
+    if (!control) return TComponentIcons::PlaceOf(component);
+    TRect place = control->GetBoundsRect();
+    if (control->GetParent() && control->GetParent() != &Root()) {
+        const TPoint origin = ToForm(control->GetParent()->ClientToScreen({0, 0}));
+        place.Offset(origin.X, origin.Y);
+    }
+    return place;
+}
+
+std::optional<int> TDesignSurface::HandleUnder(TPoint point) const {
+    const TSelection& selection = FDocument.Selection();
+    if (selection.Items().size() != 1 || !dynamic_cast<const TControl*>(selection.Leader()))
+        return std::nullopt;
+    return HandleAt(PlaceInForm(*selection.Leader()), point);
+}
+
+void TDesignSurface::UpdateMarks() {
+    if (!HandleAllocated()) return;
+    const HWND window = Root().WindowHandle();
+    FIcons.Show(Root());
+    std::vector<TRect> handles;
+    std::vector<TRect> marks;
+    const TSelection& selection = FDocument.Selection();
+    for (const TComponent* component : selection.Items()) {
+        const auto around = HandlesAround(PlaceInForm(*component));
+        const bool single = selection.Items().size() == 1 && dynamic_cast<const TControl*>(component);
+        for (std::size_t i = 0; i < around.size(); ++i) {
+            if (single)
+                handles.push_back(around[i]);
+            else if (i % 2 == 0)
+                marks.push_back(around[i]);
+        }
+    }
+    FHandles.Show(window, handles);
+    FMarks.Show(window, marks);
+}
+
+// --- messages of the form
+
+bool TDesignSurface::IsDesignMsg(TControl* sender, TMessage& message) {
+    switch (message.Msg) {
+        case WM_LBUTTONDOWN:
+        case WM_LBUTTONDBLCLK:
+        case WM_RBUTTONDOWN:
+        case WM_RBUTTONDBLCLK:
+        case WM_MOUSEMOVE: {
+            if (WantsMouseItself(sender, message)) return false;
+            const TPoint point = ToForm(sender->ClientToScreen(message.Pos()));
+            if (message.Msg == WM_MOUSEMOVE) return true;
+            if (message.Msg == WM_LBUTTONDBLCLK) {
+                TComponent* item = ItemAt(point);
+                OnOpenItem(item ? item : &Root());
+                return true;
+            }
+            SetFocus();
+            if (message.Msg == WM_LBUTTONDOWN)
+                Press(point, KeyboardShiftState());
+            else
+                ChooseAt(point);
+            return true;
+        }
+        case WM_LBUTTONUP:
+            return !WantsMouseItself(sender, message);
+        case WM_RBUTTONUP:
+            OnMenu(sender->ClientToScreen(message.Pos()));
+            return true;
+        case WM_CONTEXTMENU:
+            return true;
+        case WM_SETCURSOR:
+            if (static_cast<short>(LOWORD(message.LParam)) != HTCLIENT) return false;
+            SetPointer(ToForm(Mouse().GetCursorPos()));
+            message.Result = 1;
+            return true;
+        default:
+            return TakeFrameMessage(sender, message);
+    }
+}
+
+/// The frame of the form: it can be sized to the right and down, everything else only chooses the form.
+bool TDesignSurface::TakeFrameMessage(TControl* sender, TMessage& message) {
+    if (sender != &Root()) return false;
+    switch (message.Msg) {
+        case WM_NCLBUTTONDOWN:
+            FDocument.Selection().Clear();
+            SetFocus();
+            return message.WParam != HTRIGHT && message.WParam != HTBOTTOM && message.WParam != HTBOTTOMRIGHT;
+        case WM_NCLBUTTONDBLCLK:
+        case WM_NCRBUTTONDOWN:
+        case WM_NCRBUTTONUP:
+        case WM_SYSCOMMAND:
+            return message.Msg != WM_SYSCOMMAND || (message.WParam & 0xFFF0) != SC_SIZE;
+        case WM_EXITSIZEMOVE:
+            RootResized();
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool TDesignSurface::WantsMouseItself(TControl* sender, const TMessage& message) const {
+    return !FTool && FDrag == TDrag::None &&
+           sender->Perform(CM_DESIGNHITTEST, message.WParam, message.LParam) != 0;
+}
+
+void TDesignSurface::SetPointer(TPoint point) {
+    TCursor cursor = crArrow;
+    if (FTool)
+        cursor = crCross;
+    else if (const auto handle = HandleUnder(point))
+        cursor = HandleCursor(*handle);
+    ::SetCursor(AppServices().CursorHandle(cursor));
+}
+
+void TDesignSurface::PaintGrid() {
+    TCanvas& canvas = Root().GetCanvas();
+    canvas.GetBrush().SetColor(Root().GetColor());
+    canvas.FillRect(Root().GetClientRect());
+    if (!ShowGrid || Snapping.Grid < 2) return;
+    const TRect area = Root().GetClientRect();
+    const TColor dot = GetQV7SkinColorLinkText();
+    for (int y = 0; y < area.Bottom; y += Snapping.Grid)
+        for (int x = 0; x < area.Right; x += Snapping.Grid)
+            ::SetPixelV(canvas.GetHandle(), x, y, ColorToRGB(dot));
+}
+
+void TDesignSurface::Dispatch(TMessage& message) {
+    switch (message.Msg) {
+        case WM_GETDLGCODE:
+            message.Result = DLGC_WANTARROWS;
+            return;
+        case WM_CAPTURECHANGED:
+            TCustomControl::Dispatch(message);
+            CancelDrag();
+            return;
+        default:
+            TCustomControl::Dispatch(message);
+    }
+}
+
+void TDesignSurface::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+    TCustomControl::MouseDown(button, shift, x, y);
+    SetFocus();
+    FDocument.Selection().Clear();
+}
+
+void TDesignSurface::MouseMove(TShiftState shift, int x, int y) {
+    TCustomControl::MouseMove(shift, x, y);
+    if (FDrag != TDrag::None) Drag(ToForm(ClientToScreen({x, y})));
+}
+
+void TDesignSurface::MouseUp(TMouseButton button, TShiftState shift, int x, int y) {
+    TCustomControl::MouseUp(button, shift, x, y);
+    if (button == mbLeft && FDrag != TDrag::None) Drop(ToForm(ClientToScreen({x, y})), shift);
+}
+
+void TDesignSurface::KeyDown(WORD& key, TShiftState shift) {
+    TCustomControl::KeyDown(key, shift);
+    const bool sizing = shift.Contains(ssShift);
+    // With Ctrl to the pixel, else to the next point of the grid.
+    const int step = shift.Contains(ssCtrl) ? 1 : Snapping.Grid;
+    switch (key) {
+        case VK_LEFT:
+            return Nudge(-step, 0, sizing);
+        case VK_RIGHT:
+            return Nudge(step, 0, sizing);
+        case VK_UP:
+            return Nudge(0, -step, sizing);
+        case VK_DOWN:
+            return Nudge(0, step, sizing);
+        case VK_DELETE:
+            return DeleteSelection(FDocument);
+        case VK_ESCAPE:
+            if (CancelDrag()) return;
+            return FDocument.Selection().Clear();
+        default:
+            return;
+    }
+}
+
+void TDesignSurface::Nudge(int dx, int dy, bool sizing) {
+    if (FDocument.Selection().IsEmpty()) return;
+    if (sizing)
+        GrowSelection(FDocument, dx, dy);
+    else
+        MoveSelection(FDocument, dx, dy);
+}
+
+}  // namespace designer

@@ -1,0 +1,275 @@
+// What the mouse does on the form under design: choose, move, size, draw a band, place.
+
+#include <algorithm>
+#include <cstdlib>
+#include <set>
+#include <span>
+
+#include "designer/model/Arranging.h"
+#include "designer/model/Placing.h"
+#include "designer/surface/DesignSurface.h"
+#include "designer/surface/Handles.h"
+
+namespace designer {
+namespace {
+
+/// Pixels that the mouse must move before a press becomes a drag.
+constexpr int Threshold = 4;
+
+std::vector<TRect> EdgesAsRects(const TRect& r) {
+    return {TRect::OfSize(r.Left, r.Top, r.Width(), 1), TRect::OfSize(r.Left, r.Bottom - 1, r.Width(), 1),
+            TRect::OfSize(r.Left, r.Top, 1, r.Height()), TRect::OfSize(r.Right - 1, r.Top, 1, r.Height())};
+}
+
+/// Lets the parents of controls lay out their children once, when all of them have moved.
+class TLayoutPause {
+public:
+    explicit TLayoutPause(std::span<const std::pair<TComponent*, TRect>> moved) {
+        for (const auto& [component, place] : moved) {
+            auto* control = dynamic_cast<TControl*>(component);
+            if (control && control->GetParent()) FParents.insert(control->GetParent());
+        }
+        for (TWinControl* parent : FParents)
+            parent->DisableAlign();
+    }
+    ~TLayoutPause() {
+        for (TWinControl* parent : FParents)
+            parent->EnableAlign();
+    }
+    TLayoutPause(const TLayoutPause&) = delete;
+    TLayoutPause& operator=(const TLayoutPause&) = delete;
+
+private:
+    std::set<TWinControl*> FParents;
+};
+
+TRect Shifted(TRect r, int dx, int dy) {
+    r.Offset(dx, dy);
+    return r;
+}
+
+}  // namespace
+
+void TDesignSurface::Press(TPoint point, TShiftState shift) {
+    if (FDrag != TDrag::None) return;
+    FStart = point;
+    FEdges = {};
+    SetMouseCapture(true);
+    if (FTool) {
+        FDrag = TDrag::Placing;
+        return;
+    }
+    if (const auto handle = HandleUnder(point)) {
+        FEdges = EdgesOf(*handle);
+        FDrag = TDrag::Pressed;
+        return;
+    }
+    TSelection& selection = FDocument.Selection();
+    TComponent* item = ItemAt(point);
+    if (!item || shift.Contains(ssCtrl)) {
+        FDrag = TDrag::Band;
+        if (!shift.Contains(ssShift)) selection.Clear();
+        return;
+    }
+    if (shift.Contains(ssShift))
+        selection.Toggle(item);
+    else if (!selection.Contains(item))
+        selection.SetOnly(item);
+    FDrag = TDrag::Pressed;
+}
+
+/// What a menu will be about: something else only when that is not chosen yet.
+void TDesignSurface::ChooseAt(TPoint point) {
+    TSelection& selection = FDocument.Selection();
+    TComponent* item = ItemAt(point);
+    if (!item)
+        selection.Clear();
+    else if (!selection.Contains(item))
+        selection.SetOnly(item);
+}
+
+void TDesignSurface::Drag(TPoint point) {
+    const bool isFar = std::abs(point.X - FStart.X) >= Threshold || std::abs(point.Y - FStart.Y) >= Threshold;
+    switch (FDrag) {
+        case TDrag::Pressed:
+            if (isFar) BeginDrag(point);
+            return;
+        case TDrag::Moving:
+            return MoveTo(point);
+        case TDrag::Sizing:
+            return SizeTo(point);
+        case TDrag::Band:
+        case TDrag::Placing:
+            return ShowBand(point);
+        case TDrag::None:
+            return;
+    }
+}
+
+void TDesignSurface::BeginDrag(TPoint point) {
+    if (FDocument.Selection().IsEmpty()) return;
+    CollectMoved();
+    CollectOthers();
+    if (FMoved.empty()) return;
+    FLeader = PlaceInForm(*FMoved.front().first);
+    FDrag = FEdges.IsNone() ? TDrag::Moving : TDrag::Sizing;
+    Drag(point);
+}
+
+void TDesignSurface::CollectMoved() {
+    FMoved.clear();
+    const TSelection& selection = FDocument.Selection();
+    for (TComponent* component : selection.Items()) {
+        bool movesWithParent = false;
+        for (const TComponent* parent = component->GetParentComponent(); parent;
+             parent = parent->GetParentComponent())
+            movesWithParent = movesWithParent || selection.Contains(parent);
+        if (!movesWithParent) FMoved.emplace_back(component, designer::PlaceOf(*component));
+    }
+}
+
+/// The siblings of the leader that stay.
+void TDesignSurface::CollectOthers() {
+    FOthers.clear();
+    const auto* leader = FMoved.empty() ? nullptr : dynamic_cast<const TControl*>(FMoved.front().first);
+    if (!leader) return;
+    const TWinControl& parent = leader->GetParent() ? *leader->GetParent() : Root();
+    for (int i = 0; i < parent.GetControlCount(); ++i) {
+        const TControl& sibling = *parent.GetControl(i);
+        if (sibling.GetOwner() == &Root() && !FDocument.Selection().Contains(&sibling))
+            FOthers.push_back(PlaceInForm(sibling));
+    }
+}
+
+bool TDesignSurface::MovesIcons() const {
+    return std::ranges::any_of(
+        FMoved, [](const auto& entry) { return TComponentIcons::IsShownByIcon(*entry.first); });
+}
+
+void TDesignSurface::MoveTo(TPoint point) {
+    const TRect wanted = Shifted(FLeader, point.X - FStart.X, point.Y - FStart.Y);
+    const TRect snapped = Snapped(wanted, {}, FOthers, Snapping);
+    const int dx = snapped.Left - FLeader.Left;
+    const int dy = snapped.Top - FLeader.Top;
+    {
+        const TLayoutPause pause(FMoved);
+        for (const auto& [component, place] : FMoved)
+            SetPlaceOf(*component, Shifted(place, dx, dy));
+    }
+    FHandles.Clear();
+    FMarks.Clear();
+    if (MovesIcons()) FIcons.Show(Root());
+    std::vector<TRect> lines;
+    for (const TGuide& guide : GuidesOf(snapped, FOthers))
+        lines.push_back(guide.Line);
+    FGuides.Show(Root().WindowHandle(), lines);
+    OnDragged(designer::PlaceOf(*FMoved.front().first));
+}
+
+void TDesignSurface::SizeTo(TPoint point) {
+    const TRect wanted = WithEdgesMoved(FLeader, FEdges, point.X - FStart.X, point.Y - FStart.Y);
+    const TRect snapped = Snapped(wanted, FEdges, FOthers, Snapping);
+    const auto& [component, place] = FMoved.front();
+    SetPlaceOf(*component, Shifted(snapped, place.Left - FLeader.Left, place.Top - FLeader.Top));
+    UpdateMarks();
+    std::vector<TRect> lines;
+    for (const TGuide& guide : GuidesOf(snapped, FOthers))
+        lines.push_back(guide.Line);
+    FGuides.Show(Root().WindowHandle(), lines);
+    OnDragged(designer::PlaceOf(*component));
+}
+
+TRect TDesignSurface::Band(TPoint point) const {
+    return {std::min(FStart.X, point.X), std::min(FStart.Y, point.Y), std::max(FStart.X, point.X),
+            std::max(FStart.Y, point.Y)};
+}
+
+void TDesignSurface::ShowBand(TPoint point) {
+    FBand.Show(Root().WindowHandle(), EdgesAsRects(Band(point)));
+}
+
+void TDesignSurface::Drop(TPoint point, TShiftState shift) {
+    const TDrag drag = FDrag;
+    // The end of the capture must not take it for a break.
+    FDrag = TDrag::None;
+    SetMouseCapture(false);
+    EndDrag();
+    switch (drag) {
+        case TDrag::Moving:
+        case TDrag::Sizing:
+            FDocument.Edit(drag == TDrag::Moving ? L"Verschieben" : L"Größe ändern", [] {});
+            break;
+        case TDrag::Band: {
+            const TRect band = Band(point);
+            if (band.Width() >= Threshold || band.Height() >= Threshold) {
+                FStart = band.TopLeft();
+                FLeader = band;
+                ChooseInBand(shift.Contains(ssShift));
+            }
+            break;
+        }
+        case TDrag::Placing:
+            PlaceTool(point);
+            break;
+        default:
+            break;
+    }
+    UpdateMarks();
+}
+
+void TDesignSurface::ChooseInBand(bool adding) {
+    TSelection& selection = FDocument.Selection();
+    std::vector<TComponent*> chosen;
+    if (adding) chosen.assign(selection.Items().begin(), selection.Items().end());
+    // The band chooses among what stands in the control that it began on.
+    const TWinControl& parent = AcceptingParent(ControlAt(FStart));
+    for (int i = 0; i < Root().GetComponentCount(); ++i) {
+        TComponent* component = Root().GetComponent(i);
+        const auto* control = dynamic_cast<const TControl*>(component);
+        const bool isCandidate =
+            control ? control->GetParent() == &parent : TComponentIcons::IsShownByIcon(*component);
+        if (!isCandidate || FLeader.Intersect(PlaceInForm(*component)).IsEmpty()) continue;
+        if (std::ranges::find(chosen, component) == chosen.end()) chosen.push_back(component);
+    }
+    selection.Set(std::move(chosen));
+}
+
+void TDesignSurface::PlaceTool(TPoint point) {
+    const TMetaClass* tool = FTool;
+    TRect place = Band(point);
+    if (place.Width() < Threshold && place.Height() < Threshold)
+        place = {FStart.X, FStart.Y, FStart.X, FStart.Y};
+    TWinControl& parent = AcceptingParent(ControlAt(FStart));
+    const TPoint origin = ToForm(parent.ClientToScreen({0, 0}));
+    place.Offset(-origin.X, -origin.Y);
+    if (place.IsEmpty()) {
+        place = Snapped(place, {}, {}, Snapping);
+    } else {
+        place = Snapped(place, {.Left = true, .Top = true}, {}, Snapping);
+        place = Snapped(place, {.Right = true, .Bottom = true}, {}, Snapping);
+    }
+    FTool = nullptr;
+    designer::Place(FDocument, *tool, parent, place);
+    OnToolUsed();
+}
+
+bool TDesignSurface::CancelDrag() {
+    if (FDrag == TDrag::None) return false;
+    const TDrag drag = FDrag;
+    FDrag = TDrag::None;
+    if (GetMouseCapture()) SetMouseCapture(false);
+    if (drag == TDrag::Moving || drag == TDrag::Sizing) {
+        for (const auto& [component, place] : FMoved)
+            SetPlaceOf(*component, place);
+    }
+    EndDrag();
+    UpdateMarks();
+    return true;
+}
+
+void TDesignSurface::EndDrag() {
+    FGuides.Clear();
+    FBand.Clear();
+}
+
+}  // namespace designer

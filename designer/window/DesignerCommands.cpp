@@ -1,0 +1,174 @@
+// What the commands of menus and toolbar do.
+
+#include "designer/model/Clipping.h"
+#include "designer/model/Placing.h"
+#include "designer/window/ClipboardText.h"
+#include "designer/window/DesignerWindow.h"
+#include "designer/window/Preview.h"
+#include "platform/vcl/stdctrls/Edit.h"
+#include "platform/vcl/streaming/FormText.h"
+
+namespace designer {
+
+/// Runs a command and shows what it raises.
+void TDesignerWindow::Try(const std::function<void()>& command) {
+    try {
+        FGrid->Accept();
+        command();
+    } catch (const Exception& error) {
+        FDialogs->ShowError(error.Message());
+    }
+}
+
+bool TDesignerWindow::MayLeave() {
+    FGrid->Accept();
+    if (!AcceptText()) return false;
+    if (!FDocument.IsModified()) return true;
+    switch (FDialogs->AskToSave(FFile.Title())) {
+        case TDesignerDialogs::TAnswer::Save:
+            return Save();
+        case TDesignerDialogs::TAnswer::Discard:
+            return true;
+        case TDesignerDialogs::TAnswer::Cancel:
+            break;
+    }
+    return false;
+}
+
+void TDesignerWindow::NewForm() {
+    if (!MayLeave()) return;
+    Try([this] { FFile.New(); });
+    UpdateTitle();
+}
+
+void TDesignerWindow::Open() {
+    if (const auto name = FDialogs->AskFileToOpen()) OpenFile(*name);
+}
+
+void TDesignerWindow::OpenFile(const String& name) {
+    if (!MayLeave()) return;
+    Try([&] { FFile.Open(name); });
+    UpdateTitle();
+    const auto& problems = FDocument.Form().Problems();
+    if (!problems.empty()) ShowStatus(problems.front().Message());
+}
+
+void TDesignerWindow::OfferLeftWork() {
+    for (const TLeftWork& work : FAutoSave.TakeLeftWork()) {
+        const String title = work.FileName.empty() ? String(L"Unbenannt") : work.FileName;
+        if (!FDialogs->AskToRecover(title)) continue;
+        Try([&] { FFile.Recover(work.FileName, work.Text); });
+        UpdateTitle();
+        return;
+    }
+}
+
+bool TDesignerWindow::Save() {
+    if (!AcceptText()) return false;
+    if (FFile.Name().empty()) return SaveAs();
+    Try([this] { FFile.Save(); });
+    UpdateTitle();
+    return !FDocument.IsModified();
+}
+
+bool TDesignerWindow::SaveAs() {
+    if (!AcceptText()) return false;
+    const auto name = FDialogs->AskFileToSave(FFile.Name());
+    if (!name) return false;
+    Try([&] { FFile.SaveAs(*name); });
+    UpdateTitle();
+    return !FDocument.IsModified();
+}
+
+// --- edits; in an editor they are about its text
+
+void TDesignerWindow::Undo() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->Undo();
+    Try([this] { FDocument.Undo(); });
+}
+
+void TDesignerWindow::Redo() {
+    Try([this] { FDocument.Redo(); });
+}
+
+void TDesignerWindow::Cut() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->CutToClipboard();
+    Copy();
+    Delete();
+}
+
+void TDesignerWindow::Copy() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->CopyToClipboard();
+    if (!FDocument.Selection().IsEmpty()) Try([this] { SetClipboardText(CopySelection(FDocument)); });
+}
+
+void TDesignerWindow::Paste() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->PasteFromClipboard();
+    Try([this] {
+        TComponent* parent = &FDocument.Root();
+        if (auto* leader = dynamic_cast<TControl*>(FDocument.Selection().Leader()))
+            parent = leader->AsWinControl() && leader->ControlStyle.Contains(csAcceptsControls)
+                         ? leader
+                         : &AcceptingParent(*leader);
+        PasteText(FDocument, GetClipboardText(), *parent, FSurface->Snapping.Grid);
+    });
+}
+
+void TDesignerWindow::Delete() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->ClearSelection();
+    Try([this] { DeleteSelection(FDocument); });
+}
+
+void TDesignerWindow::ChooseAll() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->SelectAll();
+    std::vector<TComponent*> all;
+    const TDesignRoot& root = FDocument.Root();
+    for (int i = 0; i < root.GetComponentCount(); ++i) {
+        TComponent* component = root.GetComponent(i);
+        if (component->GetParentComponent() == &root || TComponentIcons::IsShownByIcon(*component))
+            all.push_back(component);
+    }
+    FDocument.Selection().Set(std::move(all));
+}
+
+void TDesignerWindow::RenameChosen() {
+    TComponent* leader = FDocument.Selection().Leader();
+    TComponent& component = leader ? *leader : FDocument.Root();
+    const auto name = FDialogs->AskName(component.GetName());
+    if (name && *name != component.GetName()) Try([&] { Rename(FDocument, component, *name); });
+}
+
+// --- text and preview
+
+bool TDesignerWindow::AcceptText() {
+    if (!ShowsText()) return true;
+    bool accepted = false;
+    Try([&] {
+        FDocument.SetText(L"Text ändern", ToUtf8(FTextMemo->GetText()));
+        accepted = true;
+    });
+    return accepted;
+}
+
+void TDesignerWindow::ToggleText() {
+    if (ShowsText()) {
+        if (!AcceptText()) return;
+        FTextMemo->Hide();
+        FSurfaceScroll->Show();
+        FSurface->SetFocus();
+        return;
+    }
+    FGrid->Accept();
+    FUpdatingText = true;
+    FTextMemo->SetText(FromUtf8(FDocument.Text()));
+    FUpdatingText = false;
+    FSurfaceScroll->Hide();
+    FTextMemo->Show();
+    FTextMemo->SetFocus();
+}
+
+void TDesignerWindow::Preview() {
+    if (AcceptText()) Try([this] { RunPreview(FDocument.Document()); });
+}
+
+}  // namespace designer

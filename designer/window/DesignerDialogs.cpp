@@ -1,0 +1,134 @@
+#include "designer/window/DesignerDialogs.h"
+
+#include <commdlg.h>
+
+#include <array>
+
+#include "buttons/UnitQV7SkinButton.h"
+#include "buttons/UnitQV7SkinMessageDialog.h"
+#include "platform/vcl/forms/Application.h"
+#include "platform/vcl/stdctrls/Edit.h"
+#include "platform/vcl/stdctrls/Label.h"
+
+namespace designer {
+namespace {
+
+constexpr wchar_t Filter[] = L"Formulardateien (*.dfm)\0*.dfm\0Alle Dateien\0*.*\0";
+
+HWND ActiveWindow() {
+    return ::GetActiveWindow();
+}
+
+std::optional<String> AskFile(const String& present, DWORD flags, BOOL(WINAPI* ask)(OPENFILENAMEW*)) {
+    std::array<wchar_t, 32'768> name{};
+    present.copy(name.data(), name.size() - 1);
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = ActiveWindow();
+    dialog.lpstrFilter = Filter;
+    dialog.lpstrFile = name.data();
+    dialog.nMaxFile = static_cast<DWORD>(name.size());
+    dialog.lpstrDefExt = L"dfm";
+    dialog.Flags = flags | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_EXPLORER;
+    if (!ask(&dialog)) return std::nullopt;
+    return String(name.data());
+}
+
+bool AskYesNo(const String& question, const TQV7SkinMessageChoice& yes, const TQV7SkinMessageChoice& no) {
+    const std::array choices{yes, no};
+    return QV7SkinMessageDialog(L"QV7 Designer", question, msgiQuestion, choices) == yes.Result;
+}
+
+}  // namespace
+
+TDesignerDialogs::TAnswer TDesignerDialogs::AskToSave(const String& title) {
+    const std::array choices{
+        TQV7SkinMessageChoice{.Caption = L"&Speichern",
+                              .Description = L"Die Datei wird ersetzt.",
+                              .Result = mrYes,
+                              .Default = true},
+        TQV7SkinMessageChoice{
+            .Caption = L"&Verwerfen", .Description = L"Die Änderungen gehen verloren.", .Result = mrNo},
+        TQV7SkinMessageChoice{.Caption = L"&Abbrechen",
+                              .Description = L"Weiter am Formular arbeiten.",
+                              .Result = mrCancel,
+                              .Cancel = true},
+    };
+    switch (QV7SkinMessageDialog(L"QV7 Designer", L"Änderungen an „" + title + L"“ speichern?", msgiQuestion,
+                                 choices)) {
+        case mrYes:
+            return TAnswer::Save;
+        case mrNo:
+            return TAnswer::Discard;
+        default:
+            return TAnswer::Cancel;
+    }
+}
+
+std::optional<String> TDesignerDialogs::AskFileToOpen() {
+    return AskFile({}, OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST, &::GetOpenFileNameW);
+}
+
+std::optional<String> TDesignerDialogs::AskFileToSave(const String& present) {
+    return AskFile(present, OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST, &::GetSaveFileNameW);
+}
+
+bool TDesignerDialogs::AskToReload(const String& title) {
+    return AskYesNo(L"„" + title + L"“ wurde von einem anderen Programm geändert.",
+                    {.Caption = L"&Neu laden", .Description = L"Zeigt den Stand der Datei.", .Result = mrYes},
+                    {.Caption = L"&Behalten",
+                     .Description = L"Weiter mit dem Stand im Designer.",
+                     .Result = mrNo,
+                     .Default = true,
+                     .Cancel = true});
+}
+
+bool TDesignerDialogs::AskToRecover(const String& title) {
+    return AskYesNo(L"„" + title + L"“ wurde nicht gespeichert, bevor der Designer zuletzt endete.",
+                    {.Caption = L"&Wiederherstellen",
+                     .Description = L"Den letzten Stand laden.",
+                     .Result = mrYes,
+                     .Default = true},
+                    {.Caption = L"&Verwerfen",
+                     .Description = L"Dieser Stand geht verloren.",
+                     .Result = mrNo,
+                     .Cancel = true});
+}
+
+void TDesignerDialogs::ShowError(const String& message) {
+    const std::array choices{
+        TQV7SkinMessageChoice{.Caption = L"&Schließen", .Result = mrOk, .Default = true, .Cancel = true}};
+    QV7SkinMessageDialog(L"QV7 Designer", message, msgiError, choices);
+}
+
+std::optional<String> TDesignerDialogs::AskName(const String& present) {
+    TForm form(nullptr);
+    form.SetCaption(L"Umbenennen");
+    form.SetBorderStyle(bsDialog);
+    form.SetClientWidth(300);
+    form.SetClientHeight(96);
+    form.SetPosition(poScreenCenter);
+    auto* label = new TLabel(&form);
+    label->SetCaption(L"Name der Komponente:");
+    label->SetBounds(12, 12, 270, 16);
+    label->SetParent(&form);
+    auto* edit = new TEdit(&form);
+    edit->SetBounds(12, 32, 276, 21);
+    edit->SetText(present);
+    edit->SetParent(&form);
+    const auto addButton = [&form](int left, const wchar_t* caption, TModalResult result) {
+        auto* button = new TQV7SkinButton(&form);
+        button->SetCaption(caption);
+        button->SetBounds(left, 62, 90, 25);
+        button->SetModalResult(result);
+        button->SetDefault(result == mrOk);
+        button->SetCancel(result == mrCancel);
+        button->SetParent(&form);
+    };
+    addButton(102, L"OK", mrOk);
+    addButton(198, L"Abbrechen", mrCancel);
+    if (form.ShowModal() != mrOk) return std::nullopt;
+    return edit->GetText();
+}
+
+}  // namespace designer

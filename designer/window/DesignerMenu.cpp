@@ -1,0 +1,110 @@
+// The commands as menus.
+
+#include <functional>
+
+#include "designer/model/Arranging.h"
+#include "designer/window/DesignerWindow.h"
+#include "platform/vcl/menus/MenuItem.h"
+#include "platform/vcl/menus/PopupMenu.h"
+#include "platform/vcl/menus/ShortCuts.h"
+
+namespace designer {
+namespace {
+
+TMenuItem& AddItem(TMenuItem& parent, const wchar_t* caption, const wchar_t* shortCut,
+                   std::function<void()> command) {
+    auto* item = new TMenuItem(&parent);
+    item->SetCaption(caption);
+    if (shortCut) item->SetShortCut(TextToShortCut(shortCut));
+    if (command) item->OnClick = [command = std::move(command)](TObject*) { command(); };
+    parent.Add(item);
+    return *item;
+}
+
+TMenuItem& AddSubmenu(TMenuItem& parent, const wchar_t* caption) {
+    return AddItem(parent, caption, nullptr, nullptr);
+}
+
+}  // namespace
+
+void TDesignerWindow::MakeMenu() {
+    FMenu = new TMainMenu(this);
+    TMenuItem& bar = FMenu->GetItems();
+    TMenuItem& file = AddSubmenu(bar, L"&Datei");
+    AddItem(file, L"&Neu", L"Ctrl+N", [this] { NewForm(); });
+    AddItem(file, L"Ö&ffnen …", L"Ctrl+O", [this] { Open(); });
+    AddItem(file, L"&Speichern", L"Ctrl+S", [this] { Save(); });
+    AddItem(file, L"Speichern &unter …", nullptr, [this] { SaveAs(); });
+    file.NewBottomLine();
+    AddItem(file, L"&Beenden", nullptr, [this] { Close(); });
+
+    TMenuItem& edit = AddSubmenu(bar, L"&Bearbeiten");
+    edit.OnClick = {this, &TDesignerWindow::UpdateMenu};
+    FUndoItem = &AddItem(edit, L"&Rückgängig", L"Ctrl+Z", [this] { Undo(); });
+    FRedoItem = &AddItem(edit, L"&Wiederholen", L"Ctrl+Y", [this] { Redo(); });
+    edit.NewBottomLine();
+    AddItem(edit, L"&Ausschneiden", L"Ctrl+X", [this] { Cut(); });
+    AddItem(edit, L"&Kopieren", L"Ctrl+C", [this] { Copy(); });
+    AddItem(edit, L"&Einfügen", L"Ctrl+V", [this] { Paste(); });
+    AddItem(edit, L"A&lles auswählen", L"Ctrl+A", [this] { ChooseAll(); });
+    edit.NewBottomLine();
+    AddItem(edit, L"U&mbenennen …", L"F2", [this] { RenameChosen(); });
+
+    AddArrangeItems(AddSubmenu(bar, L"A&nordnen"));
+    TMenuItem& view = AddSubmenu(bar, L"&Formular");
+    AddItem(view, L"&Vorschau", L"F9", [this] { Preview(); });
+    AddItem(view, L"Als &Text", L"F12", [this] { ToggleText(); });
+    SetMenu(FMenu);
+}
+
+void TDesignerWindow::AddArrangeItems(TMenuItem& parent) {
+    const auto align = [&](const wchar_t* caption, TAlignment alignment) {
+        AddItem(parent, caption, nullptr, [this, alignment] { AlignSelection(FDocument, alignment); });
+    };
+    align(L"&Links ausrichten", TAlignment::Left);
+    align(L"&Mitten übereinander", TAlignment::HorizontalCenter);
+    align(L"&Rechts ausrichten", TAlignment::Right);
+    align(L"&Oben ausrichten", TAlignment::Top);
+    align(L"Mitten &nebeneinander", TAlignment::VerticalCenter);
+    align(L"&Unten ausrichten", TAlignment::Bottom);
+    parent.NewBottomLine();
+    AddItem(parent, L"&Waagrecht verteilen", nullptr,
+            [this] { DistributeSelection(FDocument, TDirection::Horizontal); });
+    AddItem(parent, L"&Senkrecht verteilen", nullptr,
+            [this] { DistributeSelection(FDocument, TDirection::Vertical); });
+    AddItem(parent, L"Gleiche &Breite", nullptr,
+            [this] { EqualizeSelection(FDocument, TDirection::Horizontal); });
+    AddItem(parent, L"Gleiche &Höhe", nullptr,
+            [this] { EqualizeSelection(FDocument, TDirection::Vertical); });
+    AddItem(parent, L"Waagrecht &zentrieren", nullptr,
+            [this] { CenterSelection(FDocument, TDirection::Horizontal); });
+    AddItem(parent, L"Senkrecht z&entrieren", nullptr,
+            [this] { CenterSelection(FDocument, TDirection::Vertical); });
+    parent.NewBottomLine();
+    AddItem(parent, L"Nach &vorn", nullptr, [this] { BringSelectionToFront(FDocument); });
+    AddItem(parent, L"Nach h&inten", nullptr, [this] { SendSelectionToBack(FDocument); });
+}
+
+void TDesignerWindow::MakeContextMenu() {
+    FContextMenu = new TPopupMenu(this);
+    TMenuItem& items = FContextMenu->GetItems();
+    AddItem(items, L"&Ausschneiden", nullptr, [this] { Cut(); });
+    AddItem(items, L"&Kopieren", nullptr, [this] { Copy(); });
+    AddItem(items, L"&Einfügen", nullptr, [this] { Paste(); });
+    AddItem(items, L"&Löschen", nullptr, [this] { Delete(); });
+    items.NewBottomLine();
+    AddArrangeItems(AddSubmenu(items, L"A&nordnen"));
+    AddItem(items, L"U&mbenennen …", nullptr, [this] { RenameChosen(); });
+}
+
+void TDesignerWindow::UpdateMenu(TObject*) {
+    const THistory& history = FDocument.History();
+    FUndoItem->SetCaption(history.CanUndo() ? L"&Rückgängig: " + history.UndoLabel()
+                                            : String(L"&Rückgängig"));
+    FUndoItem->SetEnabled(history.CanUndo());
+    FRedoItem->SetCaption(history.CanRedo() ? L"&Wiederholen: " + history.RedoLabel()
+                                            : String(L"&Wiederholen"));
+    FRedoItem->SetEnabled(history.CanRedo());
+}
+
+}  // namespace designer

@@ -1,0 +1,242 @@
+#include "designer/window/DesignerWindow.h"
+
+#include <exception>
+#include <utility>
+
+#include "designer/model/Arranging.h"
+#include "designer/palette/PaletteIcons.h"
+#include "header/UnitQV7SkinHeaderItems.h"
+#include "indicators/UnitQV7SkinSplitter.h"
+#include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/menus/PopupMenu.h"
+#include "platform/vcl/streaming/FormResources.h"
+#include "platform/vcl/streaming/FormText.h"
+
+namespace designer {
+namespace {
+
+/// A tab with nothing but its caption, which keeps away from the edge.
+TQV7SkinHeaderItemTabExt* MakeTab(const String& caption) {
+    auto* tab = new TQV7SkinHeaderItemTabExt(bckgrndStandard, caption);
+    tab->SetStyle({});
+    return tab;
+}
+
+}  // namespace
+
+const TMetaClass& TDesignerWindow::StaticClass() {
+    using C = TDesignerWindow;
+    static const TMetaClass meta = DefineClass<C>(L"TDesignerWindow", TForm::StaticClass())
+                                       .Component<&C::FToolbar>(L"Toolbar")
+                                       .Component<&C::FPaletteTabs>(L"PaletteTabs")
+                                       .Component<&C::FStrip>(L"Strip")
+                                       .Component<&C::FStructure>(L"Structure")
+                                       .Component<&C::FInspectorTabs>(L"InspectorTabs")
+                                       .Component<&C::FGrid>(L"Grid")
+                                       .Component<&C::FSurfaceScroll>(L"SurfaceScroll")
+                                       .Component<&C::FTextMemo>(L"TextMemo")
+                                       .Component<&C::FStatus>(L"StatusPanel")
+                                       .Component<&C::FClock>(L"Clock")
+                                       .Method<&C::StripChoose>(L"StripChoose")
+                                       .Method<&C::ClockTimer>(L"ClockTimer")
+                                       .Method<&C::TextChange>(L"TextChange")
+                                       .Method<&C::WindowActivate>(L"WindowActivate")
+                                       .Method<&C::WindowCloseQuery>(L"WindowCloseQuery");
+    return meta;
+}
+
+TDesignerWindow::TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDialogs> dialogs,
+                                 const String& autoSaveFolder)
+    : TForm(AOwner),
+      FDialogs(std::move(dialogs)),
+      FValueDialogs(std::make_unique<TValueDialogs>()),
+      FFile(FDocument),
+      FProperties(FDocument, TPropertyList::TKind::Properties),
+      FEvents(FDocument, TPropertyList::TKind::Events),
+      FAutoSave(autoSaveFolder) {
+    RegisterClasses({&TPaletteStrip::StaticClass(), &TInspectorGrid::StaticClass(),
+                     &TQV7SkinToolbar::StaticClass(), &TQV7SkinSimpleTabControl::StaticClass(),
+                     &TQV7SkinSplitter::StaticClass()});
+    InitInheritedComponent(*this, TForm::StaticClass());
+    FStructureBar = std::make_unique<TStructureBar>(*FStructure, FDocument);
+    FSurface = new TDesignSurface(this, FDocument);
+    FSurface->SetParent(FSurfaceScroll);
+    FSurface->OnToolUsed = {this, &TDesignerWindow::ToolUsed};
+    FSurface->OnOpenItem = {this, &TDesignerWindow::OpenItem};
+    FSurface->OnMenu = {this, &TDesignerWindow::ShowContextMenu};
+    FSurface->OnDragged = {this, &TDesignerWindow::ShowFigures};
+    FDocument.OnChange = {this, &TDesignerWindow::DocumentChanged};
+    FDocument.Selection().OnChange = {this, &TDesignerWindow::SelectionChanged};
+    MakeMenu();
+    MakeContextMenu();
+    MakeToolbar();
+    MakePalette();
+    MakeInspector();
+    DocumentChanged();
+}
+
+TDesignerWindow::~TDesignerWindow() {
+    FGrid->SetList(nullptr);
+    FDocument.OnChange.Clear();
+    FDocument.Selection().OnChange.Clear();
+    // The surface looks after the document's form to its end.
+    delete std::exchange(FSurface, nullptr);
+    ForgetPaletteIcons();
+}
+
+void TDesignerWindow::MakeToolbar() {
+    const auto add = [this](const wchar_t* caption, void (TDesignerWindow::*command)()) {
+        auto* button = new TQV7SkinToolbutton(caption);
+        button->OnClick = [this, command](TQV7SkinHeaderItemCustom*, TMouseButton mouse, TShiftState, int,
+                                          int) {
+            if (mouse == mbLeft) (this->*command)();
+        };
+        FToolbar->GetItems().Add(button);
+    };
+    add(L"Neu", &TDesignerWindow::NewForm);
+    add(L"Öffnen", &TDesignerWindow::Open);
+    auto* save = new TQV7SkinToolbutton(L"Speichern");
+    save->OnClick = [this](TQV7SkinHeaderItemCustom*, TMouseButton mouse, TShiftState, int, int) {
+        if (mouse == mbLeft) Save();
+    };
+    FToolbar->GetItems().Add(save);
+    add(L"Rückgängig", &TDesignerWindow::Undo);
+    add(L"Wiederholen", &TDesignerWindow::Redo);
+    add(L"Als Text", &TDesignerWindow::ToggleText);
+    add(L"Vorschau", &TDesignerWindow::Preview);
+}
+
+void TDesignerWindow::MakePalette() {
+    for (const TRegisteredPage& page : RegisteredPages()) {
+        auto* tab = MakeTab(page.Name);
+        tab->OnClick = [this, page](TQV7SkinHeaderItemCustom*, TMouseButton, TShiftState, int, int) {
+            ShowPalettePage(page);
+        };
+        FPaletteTabs->GetItems().Add(tab);
+    }
+    if (FPaletteTabs->GetItems().GetCount() > 0) FPaletteTabs->GetItems()[0]->Click(mbLeft, {}, 1, 1);
+}
+
+void TDesignerWindow::ShowPalettePage(const TRegisteredPage& page) {
+    FStrip->SetClasses(page.Classes);
+    FSurface->SetTool(nullptr);
+}
+
+void TDesignerWindow::MakeInspector() {
+    const auto add = [this](const wchar_t* caption, TPropertyList& list) {
+        auto* tab = MakeTab(caption);
+        tab->OnClick = [this, &list](TQV7SkinHeaderItemCustom*, TMouseButton, TShiftState, int, int) {
+            FGrid->SetList(&list);
+        };
+        FInspectorTabs->GetItems().Add(tab);
+    };
+    add(L"Eigenschaften", FProperties);
+    add(L"Ereignisse", FEvents);
+    FGrid->OnRefused = [this](const String& message) { FDialogs->ShowError(message); };
+    FGrid->OnEditValue = [this](const TPropertyLine& line) {
+        Try([&] { EditValue(FDocument, TPropertyLine(line), *FValueDialogs); });
+    };
+    FInspectorTabs->GetItems()[0]->Click(mbLeft, {}, 1, 1);
+}
+
+// --- what has changed
+
+void TDesignerWindow::DocumentChanged() {
+    FProperties.Refresh();
+    FEvents.Refresh();
+    FGrid->UpdateLines();
+    FStructureBar->UpdateComponents();
+    FSurface->UpdateMarks();
+    if (ShowsText()) {
+        FUpdatingText = true;
+        FTextMemo->SetText(FromUtf8(FDocument.Text()));
+        FUpdatingText = false;
+    }
+    UpdateTitle();
+}
+
+void TDesignerWindow::SelectionChanged() {
+    FGrid->Accept();
+    FProperties.Refresh();
+    FEvents.Refresh();
+    FGrid->UpdateLines();
+    FStructureBar->UpdateSelection();
+    FSurface->UpdateMarks();
+    const TSelection& selection = FDocument.Selection();
+    if (selection.Items().size() == 1)
+        ShowFigures(PlaceOf(*selection.Leader()));
+    else
+        ShowStatus(selection.IsEmpty()
+                       ? FDocument.Root().GetName()
+                       : Format(L"%d Komponenten", static_cast<int>(selection.Items().size())));
+}
+
+void TDesignerWindow::ShowFigures(const TRect& place) {
+    const TComponent* leader = FDocument.Selection().Leader();
+    ShowStatus(Format(L"%s: %d, %d  –  %d × %d", leader ? leader->GetName() : String(), place.Left, place.Top,
+                      place.Width(), place.Height()));
+}
+
+void TDesignerWindow::UpdateTitle() {
+    SetCaption(Format(L"%s%s – QV7 Designer", FDocument.IsModified() ? L"* " : L"", FFile.Title()));
+}
+
+void TDesignerWindow::StripChoose(TObject*) {
+    FSurface->SetTool(FStrip->GetChosen());
+}
+
+void TDesignerWindow::ToolUsed() {
+    FStrip->SetChosen(nullptr);
+}
+
+void TDesignerWindow::OpenItem(TComponent* item) {
+    if (item == &FDocument.Root())
+        FDocument.Selection().Clear();
+    else
+        FDocument.Selection().SetOnly(item);
+    RenameChosen();
+}
+
+void TDesignerWindow::ShowContextMenu(TPoint screen) {
+    UpdateMenu(nullptr);
+    FContextMenu->Popup(screen.X, screen.Y);
+}
+
+/// Keeps unsaved work for the case that the program ends without asking.
+void TDesignerWindow::ClockTimer(TObject*) {
+    if (FSurface->GetMouseCapture() || FKept == FDocument.Text()) return;
+    if (FDocument.IsModified())
+        FAutoSave.Keep(FFile.Name(), FDocument.Text());
+    else
+        FAutoSave.Discard();
+    FKept = FDocument.Text();
+}
+
+/// Tells while the text is being written where it can't be parsed.
+void TDesignerWindow::TextChange(TObject*) {
+    if (FUpdatingText) return;
+    try {
+        (void)ParseFormText(FTextMemo->GetText());
+        ShowStatus(L"Der Text ist in Ordnung");
+    } catch (const EFormError& error) {
+        const TFormProblem& problem = error.Problem();
+        ShowStatus(
+            Format(L"Zeile %d, Spalte %d: %s", problem.Position.Line, problem.Position.Column, problem.Text));
+    }
+}
+
+void TDesignerWindow::WindowActivate(TObject*) {
+    if (!FFile.NoticeChangeOnDisk() || !FDialogs->AskToReload(FFile.Title())) return;
+    try {
+        FFile.Open(String(FFile.Name()));
+    } catch (const Exception& error) {
+        FDialogs->ShowError(error.Message());
+    }
+}
+
+void TDesignerWindow::WindowCloseQuery(TObject*, bool& canClose) {
+    canClose = MayLeave();
+    if (canClose) FAutoSave.Discard();
+}
+
+}  // namespace designer

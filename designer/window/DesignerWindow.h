@@ -1,0 +1,130 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "designer/files/AutoSave.h"
+#include "designer/files/DesignFile.h"
+#include "designer/inspector/InspectorGrid.h"
+#include "designer/inspector/PropertyEditors.h"
+#include "designer/palette/PaletteStrip.h"
+#include "designer/surface/DesignSurface.h"
+#include "designer/window/DesignerDialogs.h"
+#include "designer/window/StructureBar.h"
+#include "header/UnitQV7SkinTabControl.h"
+#include "header/UnitQV7SkinToolbar.h"
+#include "platform/vcl/forms/Form.h"
+#include "platform/vcl/menus/MainMenu.h"
+#include "platform/vcl/stdctrls/Memo.h"
+#include "platform/vcl/stdctrls/Panel.h"
+#include "platform/vcl/stdctrls/ScrollBox.h"
+#include "platform/vcl/stdctrls/Timer.h"
+
+namespace designer {
+
+/// The designer's window: commands above, palette, inspector at the left, the form in the middle.
+class TDesignerWindow final : public TForm {
+public:
+    /// Reads the window from its form file. Unsaved work is kept in `autoSaveFolder` while the window lives.
+    TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDialogs> dialogs,
+                    const String& autoSaveFolder);
+    ~TDesignerWindow() override;
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass();
+
+    /// Opens a file after asking for unsaved changes; an error is shown.
+    void OpenFile(const String& name);
+    /// Offers what runs that did not end in good order have left.
+    void OfferLeftWork();
+
+    /// Replaces the windows that ask for values.
+    void SetValueDialogs(std::unique_ptr<TValueDialogs> dialogs) { FValueDialogs = std::move(dialogs); }
+    [[nodiscard]] TDesignDocument& Document() { return FDocument; }
+    [[nodiscard]] TDesignFile& File() { return FFile; }
+    [[nodiscard]] TDesignSurface& Surface() { return *FSurface; }
+    [[nodiscard]] TInspectorGrid& Grid() { return *FGrid; }
+    [[nodiscard]] TPaletteStrip& Strip() { return *FStrip; }
+    [[nodiscard]] TQV7SkinSimpleTabControl& PaletteTabs() { return *FPaletteTabs; }
+    [[nodiscard]] TMemo& TextMemo() { return *FTextMemo; }
+    [[nodiscard]] TQV7SkinExplorerBar& Structure() { return *FStructure; }
+    [[nodiscard]] String Status() const { return FStatus->GetCaption(); }
+    [[nodiscard]] bool ShowsText() const { return FTextMemo->GetVisible(); }
+
+    // Commands (DesignerCommands.cpp). Errors are shown.
+    void NewForm();
+    void Open();
+    /// False when it was not saved.
+    bool Save();
+    bool SaveAs();
+    void Undo();
+    void Redo();
+    void Cut();
+    void Copy();
+    void Paste();
+    void Delete();
+    void ChooseAll();
+    void RenameChosen();
+    /// Switches between the form and its text. Stays with a text that can't be parsed.
+    void ToggleText();
+    void Preview();
+
+private:
+    // DesignerWindow.cpp
+    void MakeToolbar();
+    void MakePalette();
+    void MakeInspector();
+    void ShowPalettePage(const TRegisteredPage& page);
+    void DocumentChanged();
+    void SelectionChanged();
+    void ShowFigures(const TRect& place);
+    void ShowStatus(const String& text) { FStatus->SetCaption(L"  " + text); }
+    void UpdateTitle();
+    void StripChoose(TObject* sender);
+    void ToolUsed();
+    void OpenItem(TComponent* item);
+    void ShowContextMenu(TPoint screen);
+    void ClockTimer(TObject* sender);
+    void TextChange(TObject* sender);
+    void WindowActivate(TObject* sender);
+    void WindowCloseQuery(TObject* sender, bool& canClose);
+
+    // DesignerMenu.cpp
+    void MakeMenu();
+    void MakeContextMenu();
+    void AddArrangeItems(TMenuItem& parent);
+    void UpdateMenu(TObject* sender);
+
+    // DesignerCommands.cpp
+    void Try(const std::function<void()>& command);
+    [[nodiscard]] bool MayLeave();
+    [[nodiscard]] bool AcceptText();
+
+    std::unique_ptr<TDesignerDialogs> FDialogs;
+    std::unique_ptr<TValueDialogs> FValueDialogs;
+    TDesignDocument FDocument;
+    TDesignFile FFile;
+    TPropertyList FProperties;
+    TPropertyList FEvents;
+    TAutoSave FAutoSave;
+    std::string FKept;  ///< What the autosave holds.
+
+    TQV7SkinToolbar* FToolbar = nullptr;
+    TQV7SkinSimpleTabControl* FPaletteTabs = nullptr;
+    TPaletteStrip* FStrip = nullptr;
+    TQV7SkinExplorerBar* FStructure = nullptr;
+    std::unique_ptr<TStructureBar> FStructureBar;
+    TQV7SkinSimpleTabControl* FInspectorTabs = nullptr;
+    TInspectorGrid* FGrid = nullptr;
+    TScrollBox* FSurfaceScroll = nullptr;
+    TMemo* FTextMemo = nullptr;
+    TPanel* FStatus = nullptr;
+    TTimer* FClock = nullptr;
+    TDesignSurface* FSurface = nullptr;
+    TMainMenu* FMenu = nullptr;
+    TPopupMenu* FContextMenu = nullptr;
+    TMenuItem* FUndoItem = nullptr;
+    TMenuItem* FRedoItem = nullptr;
+    bool FUpdatingText = false;
+};
+
+}  // namespace designer

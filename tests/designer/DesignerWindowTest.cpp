@@ -1,0 +1,306 @@
+#include "designer/window/DesignerWindow.h"
+
+#include <utility>
+
+#include "designer/palette/PaletteIcons.h"
+#include "explorerbar/UnitQV7SkinExplorerGroups.h"
+#include "explorerbar/UnitQV7SkinExplorerItems.h"
+#include "header/UnitQV7SkinHeaderItems.h"
+#include "package/UnitQV7SkinRegister.h"
+#include "platform/vcl/forms/Application.h"
+#include "platform/vcl/forms/Screen.h"
+#include "platform/vcl/forms/StandardClasses.h"
+#include "platform/vcl/stdctrls/Button.h"
+#include "platform/vcl/streaming/FormText.h"
+#include "tests/support/FormTest.h"
+#include "tests/support/Pump.h"
+#include "tests/support/TempDir.h"
+
+namespace designer {
+namespace {
+
+/// Answers without windows what the test has prepared.
+struct TPreparedAnswers {
+    TDesignerDialogs::TAnswer Save = TDesignerDialogs::TAnswer::Cancel;
+    std::optional<String> File;
+    std::optional<String> Name;
+    bool Yes = false;
+    int Questions = 0;
+    std::vector<String> Errors;
+};
+
+class TPreparedDialogs final : public TDesignerDialogs {
+public:
+    explicit TPreparedDialogs(TPreparedAnswers& answers) : FAnswers(answers) {}
+    TAnswer AskToSave(const String&) override { return ++FAnswers.Questions, FAnswers.Save; }
+    std::optional<String> AskFileToOpen() override { return FAnswers.File; }
+    std::optional<String> AskFileToSave(const String&) override { return FAnswers.File; }
+    bool AskToReload(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
+    bool AskToRecover(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
+    void ShowError(const String& message) override { FAnswers.Errors.push_back(message); }
+    std::optional<String> AskName(const String&) override { return FAnswers.Name; }
+
+private:
+    TPreparedAnswers& FAnswers;
+};
+
+constexpr char SampleFile[] =
+    "object MainForm: TMainForm\r\n  BorderStyle = bsNone\r\n  ClientHeight = 200\r\n  ClientWidth = 300\r\n"
+    "  object OkButton: TButton\r\n    Left = 16\r\n    Top = 16\r\n    Width = 80\r\n    Height = 24\r\n"
+    "    Caption = 'Fertig'\r\n    OnClick = OkButtonClick\r\n  end\r\nend\r\n";
+
+class DesignerWindowTest : public test::FormTest {
+protected:
+    void SetUp() override {
+        RegisterStandardClasses();
+        Register();
+        FormTest::SetUp();
+        Window = MakeWindow();
+    }
+    void TearDown() override {
+        Window.reset();
+        FormTest::TearDown();
+    }
+    std::unique_ptr<TDesignerWindow> MakeWindow() {
+        auto window = std::make_unique<TDesignerWindow>(nullptr, std::make_unique<TPreparedDialogs>(Answers),
+                                                        Dir.Path() + L"\\kept");
+        window->SetBounds(0, 0, 1000, 700);
+        window->Show();
+        test::PumpAll();
+        return window;
+    }
+    TDesignDocument& Document() { return Window->Document(); }
+    [[nodiscard]] HWND FormWindow() { return Document().Root().WindowHandle(); }
+    /// Presses the button of the class on its palette page.
+    void PressTool(const wchar_t* page, const wchar_t* className) {
+        auto& tabs = Window->PaletteTabs();
+        for (int i = 0; i < tabs.GetItems().GetCount(); ++i) {
+            if (tabs.GetItems()[i]->GetCaption() != page) continue;
+            tabs.ScrollInView(i);
+            const TRect tab = tabs.GetItemRect(i);
+            Input.ClickAt(tabs.WindowHandle(), tabs.GetHorzOffset() + tab.Left + 8, 12);
+        }
+        const TClassList& classes = Window->Strip().Classes();
+        for (std::size_t i = 0; i < classes.size(); ++i) {
+            if (String(classes[i]->ClassName()) != className) continue;
+            const TRect cell = TPaletteStrip::CellOf(static_cast<int>(i));
+            Input.ClickAt(Window->Strip().WindowHandle(), cell.Left + 12, cell.Top + 12);
+        }
+    }
+    void ChooseLine(const wchar_t* path) {
+        Window->Grid().Choose(path);
+        Window->Grid().SetFocus();
+    }
+    [[nodiscard]] bool TextHas(const char* part) { return Document().Text().find(part) != std::string::npos; }
+
+    test::TempDir Dir;
+    TPreparedAnswers Answers;
+    std::unique_ptr<TDesignerWindow> Window;
+};
+
+TEST_F(DesignerWindowTest, ShowsThePagesOfThePalette) {
+    const TQV7SkinHeaderItems& tabs = Window->PaletteTabs().GetItems();
+    std::vector<String> pages;
+    for (int i = 0; i < tabs.GetCount(); ++i)
+        pages.push_back(tabs[i]->GetCaption());
+    std::vector<String> expected;
+    for (const TRegisteredPage& page : RegisteredPages())
+        expected.push_back(page.Name);
+    EXPECT_EQ(pages, expected);
+    EXPECT_NE(std::ranges::find(pages, L"QV7"), pages.end());
+    EXPECT_TRUE(tabs[0]->GetSelected());
+}
+
+TEST_F(DesignerWindowTest, AComponentIsPlacedNamedAndSavedByMouseAndKeys) {
+    PressTool(L"QV7", L"TQV7SkinButton");
+    ASSERT_TRUE(Window->Surface().GetTool());
+    Input.ClickAt(FormWindow(), 40, 40);
+    EXPECT_TRUE(TextHas("object QV7SkinButton1: TQV7SkinButton"));
+    EXPECT_EQ(Window->Strip().GetChosen(), nullptr) << "back to the arrow";
+
+    ChooseLine(L"Caption");
+    Input.Chord({VK_CONTROL}, 'A');
+    Input.Type(L"Größe");
+    Input.KeyPress(VK_RETURN);
+    EXPECT_TRUE(TextHas("Caption = 'Gr'#246#223'e'")) << Document().Text();
+
+    Answers.File = Dir.File(L"form.dfm");
+    Input.Chord({VK_CONTROL}, 'S');
+    EXPECT_EQ(Dir.Read(L"form.dfm"), Document().Text());
+    EXPECT_FALSE(Document().IsModified());
+    EXPECT_EQ(Window->GetCaption(), L"form.dfm – QV7 Designer");
+}
+
+TEST_F(DesignerWindowTest, AnOpenedFileIsSavedUnchanged) {
+    const String file = Dir.Write(L"form.dfm", SampleFile);
+    Window->OpenFile(file);
+    const std::string text = Document().Text();
+    Window->Save();
+    EXPECT_EQ(Dir.Read(L"form.dfm"), text);
+    Window->OpenFile(file);
+    Window->Save();
+    EXPECT_EQ(Dir.Read(L"form.dfm"), text) << "and stays so";
+    EXPECT_TRUE(TextHas("OnClick = OkButtonClick"));
+}
+
+TEST_F(DesignerWindowTest, ABinaryFileStaysBinary) {
+    const auto bytes = FormToBytes(ParseFormText(FromUtf8(SampleFile)), TFormFormat::Binary);
+    const String file =
+        Dir.Write(L"form.dfm", std::string_view(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
+    Window->OpenFile(file);
+    Window->Save();
+    EXPECT_EQ(Dir.Read(L"form.dfm").substr(0, 4), "TPF0");
+}
+
+TEST_F(DesignerWindowTest, AFileThatCannotBeReadIsToldAndChangesNothing) {
+    const std::string before = Document().Text();
+    Window->OpenFile(Dir.Write(L"bad.dfm", "object X: T\r\n  Left = \r\n"));
+    ASSERT_EQ(Answers.Errors.size(), 1u);
+    EXPECT_NE(Answers.Errors[0].find(L"bad.dfm(3,"), String::npos) << ToUtf8(Answers.Errors[0]);
+    EXPECT_EQ(Document().Text(), before);
+    Window->OpenFile(Dir.File(L"none.dfm"));
+    EXPECT_EQ(Answers.Errors.size(), 2u);
+}
+
+TEST_F(DesignerWindowTest, ARefusedValueIsToldAndTheOldOneComesBack) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    Input.ClickAt(FormWindow(), 30, 25);
+    ChooseLine(L"Width");
+    Input.Chord({VK_CONTROL}, 'A');
+    Input.Type(L"breit");
+    Input.KeyPress(VK_RETURN);
+    ASSERT_EQ(Answers.Errors.size(), 1u);
+    EXPECT_EQ(Answers.Errors[0], L"'breit' ist keine ganze Zahl");
+    EXPECT_FALSE(Document().IsModified());
+}
+
+TEST_F(DesignerWindowTest, UndoAndRedoWorkByKeys) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    const std::string before = Document().Text();
+    Input.ClickAt(FormWindow(), 30, 25);
+    Input.KeyPress(VK_RIGHT);
+    const std::string after = Document().Text();
+    EXPECT_NE(after, before);
+    Input.Chord({VK_CONTROL}, 'Z');
+    EXPECT_EQ(Document().Text(), before);
+    Input.Chord({VK_CONTROL}, 'Y');
+    EXPECT_EQ(Document().Text(), after);
+}
+
+TEST_F(DesignerWindowTest, ComponentsGoThroughTheClipboardAsText) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    Input.ClickAt(FormWindow(), 30, 25);
+    Input.Chord({VK_CONTROL}, 'C');
+    Input.Chord({VK_CONTROL}, 'V');
+    EXPECT_TRUE(TextHas("object Button1: TButton")) << Document().Text();
+    Input.Chord({VK_CONTROL}, 'X');
+    EXPECT_FALSE(TextHas("object Button1: TButton"));
+    EXPECT_TRUE(TextHas("object OkButton: TButton"));
+}
+
+TEST_F(DesignerWindowTest, TheTextCanBeEditedAndSaysWhereItIsWrong) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    Input.KeyPress(VK_F12);
+    ASSERT_TRUE(Window->ShowsText());
+    String text = Window->TextMemo().GetText();
+    Window->TextMemo().SetText(L"?\r\n" + text);
+    EXPECT_NE(Window->Status().find(L"Zeile 1,"), String::npos) << ToUtf8(Window->Status());
+    Input.KeyPress(VK_F12);
+    EXPECT_TRUE(Window->ShowsText()) << "it stays with a text that can't be parsed";
+    EXPECT_EQ(Answers.Errors.size(), 1u);
+
+    text.replace(text.find(L"Fertig"), 6, L"Los");
+    Window->TextMemo().SetText(text);
+    EXPECT_NE(Window->Status().find(L"in Ordnung"), String::npos);
+    Input.KeyPress(VK_F12);
+    EXPECT_FALSE(Window->ShowsText());
+    EXPECT_TRUE(TextHas("Caption = 'Los'"));
+    Input.Chord({VK_CONTROL}, 'Z');
+    EXPECT_TRUE(TextHas("Caption = 'Fertig'"));
+}
+
+TEST_F(DesignerWindowTest, ClosingAsksForUnsavedChanges) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    EXPECT_TRUE(Window->CloseQuery());
+    EXPECT_EQ(Answers.Questions, 0);
+    Input.ClickAt(FormWindow(), 30, 25);
+    Input.KeyPress(VK_RIGHT);
+    EXPECT_FALSE(Window->CloseQuery()) << "the answer was to go on";
+    Answers.Save = TDesignerDialogs::TAnswer::Save;
+    EXPECT_TRUE(Window->CloseQuery());
+    EXPECT_EQ(Dir.Read(L"form.dfm"), Document().Text());
+    EXPECT_EQ(Answers.Questions, 2);
+}
+
+TEST_F(DesignerWindowTest, AChangeOnDiskIsNoticed) {
+    const String file = Dir.Write(L"form.dfm", SampleFile);
+    Window->OpenFile(file);
+    std::string changed = SampleFile;
+    changed.replace(changed.find("Fertig"), 6, "Neu");
+    Dir.Write(L"form.dfm", changed);
+    test::AgeFile(file);  // another time than that of its last writing
+    Answers.Yes = true;
+    Window->OnActivate(Window.get());
+    EXPECT_EQ(Answers.Questions, 1);
+    EXPECT_TRUE(TextHas("Caption = 'Neu'"));
+    Window->OnActivate(Window.get());
+    EXPECT_EQ(Answers.Questions, 1) << "only once";
+}
+
+TEST_F(DesignerWindowTest, WorkThatWasLeftBehindIsOffered) {
+    Dir.Write(L"form.dfm", SampleFile);
+    std::string text = SampleFile;
+    text.replace(text.find("Fertig"), 6, "Verloren");
+    Dir.Write(L"kept\\1-2.arbeit", ToUtf8(Dir.File(L"form.dfm")) + "\n" + text);
+    Answers.Yes = true;
+    Window->OfferLeftWork();
+    EXPECT_EQ(Answers.Questions, 1);
+    EXPECT_TRUE(TextHas("Caption = 'Verloren'"));
+    EXPECT_TRUE(Document().IsModified());
+    EXPECT_EQ(Window->File().Name(), Dir.File(L"form.dfm"));
+    Document().Undo();
+    EXPECT_TRUE(TextHas("Caption = 'Fertig'")) << "the state of the file lies before it";
+}
+
+TEST_F(DesignerWindowTest, ThePreviewRunsTheFormAndLeavesTheDocumentAlone) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    const std::string before = Document().Text();
+    bool seen = false;
+    test::Later([&] {
+        TCustomForm* preview = Screen().GetActiveForm();
+        seen = preview && preview != Window.get() && preview->FindComponent(L"OkButton") &&
+               !preview->IsInState(csDesigning);
+        preview->Close();
+    });
+    Input.KeyPress(VK_F9);
+    EXPECT_TRUE(seen);
+    EXPECT_EQ(Document().Text(), before);
+    EXPECT_TRUE(Answers.Errors.empty());
+}
+
+TEST_F(DesignerWindowTest, TheStructureShowsComponentsAndChoosesThem) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    TQV7SkinExplorerBar& bar = Window->Structure();
+    ASSERT_EQ(bar.GetGroups().GetCount(), 1);
+    TQV7SkinExplorerGroup& group = *bar.GetGroups()[0];
+    EXPECT_EQ(group.GetTitle(), L"MainForm: TMainForm");
+    ASSERT_EQ(group.GetItems().GetCount(), 1);
+    auto& link = dynamic_cast<TQV7SkinExplorerItemLink&>(*group.GetItems().GetItems(0));
+    EXPECT_EQ(link.GetCaption(), L"OkButton: TButton");
+    EXPECT_EQ(link.GetFontStyle(), TFontStyles{});
+    bar.Update();
+    Input.MoveTo(bar.WindowHandle(), link.ClipRect().Left + 8, link.ClipRect().Top + 4);
+    Input.Click();
+    EXPECT_EQ(Document().Selection().Names(), std::vector<String>{L"OkButton"});
+    EXPECT_EQ(link.GetFontStyle(), TFontStyles{fsBold});
+
+    PressTool(L"Standard", L"TPanel");
+    Input.ClickAt(FormWindow(), 120, 60);
+    PressTool(L"Standard", L"TEdit");
+    Input.ClickAt(FormWindow(), 130, 70);
+    ASSERT_EQ(bar.GetGroups().GetCount(), 2) << Document().Text();
+    EXPECT_EQ(bar.GetGroups()[1]->GetTitle(), L"Panel1");
+}
+
+}  // namespace
+}  // namespace designer
