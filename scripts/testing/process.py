@@ -126,6 +126,8 @@ class Runner:
             return
         if log.running:
             self.blame(log, tests, f"crashed: exit code {code}" + (f", {CRASHES[code]}" if code in CRASHES else ""))
+        elif code != 0 and not log.results:
+            self.blame(log, tests, f"the program ended with exit code {code} before its first test")
         elif code != 0 and all(result.outcome == "passed" for result in log.results):
             self.blame(log, tests, f"the program ended with exit code {code} after this test")
 
