@@ -2,6 +2,8 @@
 """Runs the test programs of a build under Wine, several processes at a time, and closes with one line of counts.
 
 Suites run in processes of their own. A test that hangs or crashes is named, and the tests behind it still run.
+A few that fail are run once more, each alone on a machine that is quiet by then: a test that passes now depends on
+the load, which the closing lines say.
 """
 
 import argparse
@@ -16,6 +18,10 @@ sys.path.insert(0, str(Path(__file__).parent))
 
 from process import Result, Runner  # noqa: E402
 from programs import Portion, Times, is_soak, list_tests, matches, split  # noqa: E402
+
+
+# More failures than this have a cause that does not go away by running again.
+FEW = 5
 
 
 def arguments() -> argparse.Namespace:
@@ -46,13 +52,30 @@ def report(portion: Portion, result: Result) -> None:
     sys.stdout.flush()
 
 
-def summary(done: list[tuple[Portion, Result]], started: float) -> int:
+def run_again(runner: Runner, done: list[tuple[Portion, Result]]) -> list[str]:
+    """Runs the few failed tests once more, each alone. Returns the names of those that pass now."""
+    failed = [(portion, result) for portion, result in done if result.outcome == "failed"]
+    if len(failed) > FEW:
+        return []
+    cured = []
+    for portion, result in failed:
+        alone = Portion(portion.program, portion.suite, (result.test,), result.seconds)
+        again = runner.run(alone)
+        if again and all(one.outcome == "passed" for one in again):
+            result.outcome = "passed"
+            cured.append(f"  {portion.program.stem}: {result.test}")
+    return cured
+
+
+def summary(done: list[tuple[Portion, Result]], cured: list[str], started: float) -> int:
     """Prints counts per program, the names of what failed, and the closing line. Returns the exit code."""
     programs = sorted({portion.program.stem for portion, _ in done})
     for program in programs:
         outcomes = [result.outcome for portion, result in done if portion.program.stem == program]
         print(f"{program:20} {outcomes.count('passed'):6} passed {outcomes.count('failed'):4} failed")
     print(f"{len(done)} tests in {time.monotonic() - started:.1f} s")
+    if cured:
+        print("Passed only when run again, alone:", *sorted(cured), sep="\n")
     failed = [f"  {portion.program.stem}: {result.test}" for portion, result in done if result.outcome == "failed"]
     if failed:
         print("Failed:", *sorted(failed), sep="\n")
@@ -93,7 +116,7 @@ def main() -> int:
                 times.store(portion.program, result.test, result.seconds)
                 done.append((portion, result))
     times.save()
-    return summary(done, started)
+    return summary(done, run_again(runner, done), started)
 
 
 if __name__ == "__main__":
