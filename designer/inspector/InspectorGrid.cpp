@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "designer/inspector/PropertyEditors.h"
+#include "designer/inspector/ValueEdit.h"
+#include "menus/UnitQV7SkinMenus.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Brush.h"
@@ -10,8 +12,6 @@
 #include "platform/vcl/graphics/Font.h"
 #include "platform/vcl/graphics/Pen.h"
 #include "platform/vcl/menus/MenuItem.h"
-#include "platform/vcl/menus/PopupMenu.h"
-#include "platform/vcl/stdctrls/Edit.h"
 #include "skin/UnitQV7SkinColors.h"
 
 namespace designer {
@@ -33,16 +33,12 @@ const TMetaClass& TInspectorGrid::StaticClass() {
 }
 
 TInspectorGrid::TInspectorGrid(TComponent* AOwner)
-    : TCustomControl(AOwner), FEditor(new TEdit(this)), FMenu(new TPopupMenu(this)) {
+    : TCustomControl(AOwner), FEditor(new TValueEdit(*this)), FMenu(new TQV7SkinPopupMenu(this)) {
     ControlStyle = ControlStyle + TControlStyle{csOpaque};
     SetColor(GetQV7SkinColorCaption());
     SetDoubleBuffered(true);
-    FEditor->SetBorderStyle(bsNone);
-    FEditor->SetAutoSize(false);
-    FEditor->SetVisible(false);
     FEditor->OnKeyDown = {this, &TInspectorGrid::EditorKeyDown};
     FEditor->OnExit = {this, &TInspectorGrid::EditorExit};
-    FEditor->SetParent(this);
 }
 
 TInspectorGrid::~TInspectorGrid() {

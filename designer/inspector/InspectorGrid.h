@@ -3,12 +3,13 @@
 #include "designer/inspector/PropertyList.h"
 #include "platform/vcl/controls/CustomControl.h"
 
-namespace vcl {
-class TEdit;
-class TPopupMenu;
-}  // namespace vcl
+namespace qv7skin {
+class TQV7SkinPopupMenu;
+}
 
 namespace designer {
+
+class TValueEdit;
 
 /// The lines of a property list as a table of names and values, to be edited in place. As high as all lines;
 /// it stands in a control that scrolls.
@@ -63,8 +64,8 @@ private:
 
     TPropertyList* FList = nullptr;
     String FChosen;
-    TEdit* FEditor;
-    TPopupMenu* FMenu;
+    TValueEdit* FEditor;
+    TQV7SkinPopupMenu* FMenu;
     bool FAccepting = false;
 };
 

@@ -1,5 +1,6 @@
 // What the commands of menus and toolbar do.
 
+#include "designer/files/SafeFile.h"
 #include "designer/model/Clipping.h"
 #include "designer/model/Placing.h"
 #include "designer/window/ClipboardText.h"
@@ -11,12 +12,14 @@
 namespace designer {
 
 /// Runs a command and shows what it raises.
-void TDesignerWindow::Try(const std::function<void()>& command) {
+bool TDesignerWindow::Try(const std::function<void()>& command) {
     try {
         FGrid->Accept();
         command();
+        return true;
     } catch (const Exception& error) {
         FDialogs->ShowError(error.Message());
+        return false;
     }
 }
 
@@ -47,10 +50,16 @@ void TDesignerWindow::Open() {
 
 void TDesignerWindow::OpenFile(const String& name) {
     if (!MayLeave()) return;
-    Try([&] { FFile.Open(name); });
+    if (Try([&] { FFile.Open(name); })) FRecent.Add(name);
     UpdateTitle();
     const auto& problems = FDocument.Form().Problems();
     if (!problems.empty()) ShowStatus(problems.front().Message());
+}
+
+void TDesignerWindow::OpenRecentFile(const String& name) {
+    if (FileTimeOf(name) != 0) return OpenFile(name);
+    FRecent.Remove(name);
+    FDialogs->ShowError(L"Die Datei „" + name + L"“ gibt es nicht mehr. Sie wurde aus der Liste genommen.");
 }
 
 void TDesignerWindow::OfferLeftWork() {
@@ -75,7 +84,7 @@ bool TDesignerWindow::SaveAs() {
     if (!AcceptText()) return false;
     const auto name = FDialogs->AskFileToSave(FFile.Name());
     if (!name) return false;
-    Try([&] { FFile.SaveAs(*name); });
+    if (Try([&] { FFile.SaveAs(*name); })) FRecent.Add(*name);
     UpdateTitle();
     return !FDocument.IsModified();
 }

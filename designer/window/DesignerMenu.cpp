@@ -5,7 +5,6 @@
 #include "designer/model/Arranging.h"
 #include "designer/window/DesignerWindow.h"
 #include "platform/vcl/menus/MenuItem.h"
-#include "platform/vcl/menus/PopupMenu.h"
 #include "platform/vcl/menus/ShortCuts.h"
 
 namespace designer {
@@ -25,14 +24,24 @@ TMenuItem& AddSubmenu(TMenuItem& parent, const wchar_t* caption) {
     return AddItem(parent, caption, nullptr, nullptr);
 }
 
+/// A caption that shows the text as it is: `&` in it is no mnemonic.
+String Literal(const String& text) {
+    String caption;
+    for (const wchar_t c : text)
+        caption.append(c == cHotkeyPrefix ? 2 : 1, c);
+    return caption;
+}
+
 }  // namespace
 
 void TDesignerWindow::MakeMenu() {
-    FMenu = new TMainMenu(this);
+    FMenu = new TQV7SkinMainMenu(this);
     TMenuItem& bar = FMenu->GetItems();
     TMenuItem& file = AddSubmenu(bar, L"&Datei");
+    file.OnClick = {this, &TDesignerWindow::UpdateRecentFiles};
     AddItem(file, L"&Neu", L"Ctrl+N", [this] { NewForm(); });
     AddItem(file, L"Ö&ffnen …", L"Ctrl+O", [this] { Open(); });
+    FRecentItem = &AddSubmenu(file, L"&Zuletzt geöffnet");
     AddItem(file, L"&Speichern", L"Ctrl+S", [this] { Save(); });
     AddItem(file, L"Speichern &unter …", nullptr, [this] { SaveAs(); });
     file.NewBottomLine();
@@ -54,6 +63,8 @@ void TDesignerWindow::MakeMenu() {
     TMenuItem& view = AddSubmenu(bar, L"&Formular");
     AddItem(view, L"&Vorschau", L"F9", [this] { Preview(); });
     AddItem(view, L"Als &Text", L"F12", [this] { ToggleText(); });
+    UpdateRecentFiles(nullptr);
+    FMenu->ApplyCustomLayout();
     SetMenu(FMenu);
 }
 
@@ -86,7 +97,7 @@ void TDesignerWindow::AddArrangeItems(TMenuItem& parent) {
 }
 
 void TDesignerWindow::MakeContextMenu() {
-    FContextMenu = new TPopupMenu(this);
+    FContextMenu = new TQV7SkinPopupMenu(this);
     TMenuItem& items = FContextMenu->GetItems();
     AddItem(items, L"&Ausschneiden", nullptr, [this] { Cut(); });
     AddItem(items, L"&Kopieren", nullptr, [this] { Copy(); });
@@ -95,6 +106,16 @@ void TDesignerWindow::MakeContextMenu() {
     items.NewBottomLine();
     AddArrangeItems(AddSubmenu(items, L"A&nordnen"));
     AddItem(items, L"U&mbenennen …", nullptr, [this] { RenameChosen(); });
+}
+
+void TDesignerWindow::UpdateRecentFiles(TObject*) {
+    FRecentItem->Clear();
+    const std::vector<String> names = FRecent.Names();
+    for (int number = 1; const String& name : names) {
+        AddItem(*FRecentItem, Format(L"&%d  %s", number++, Literal(name)).c_str(), nullptr,
+                [this, name] { OpenRecentFile(String(name)); });
+    }
+    FRecentItem->SetEnabled(!names.empty());
 }
 
 void TDesignerWindow::UpdateMenu(TObject*) {

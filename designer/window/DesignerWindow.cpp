@@ -8,7 +8,6 @@
 #include "header/UnitQV7SkinHeaderItems.h"
 #include "indicators/UnitQV7SkinSplitter.h"
 #include "platform/vcl/core/DefineClass.h"
-#include "platform/vcl/menus/PopupMenu.h"
 #include "platform/vcl/streaming/FormResources.h"
 #include "platform/vcl/streaming/FormText.h"
 
@@ -46,14 +45,15 @@ const TMetaClass& TDesignerWindow::StaticClass() {
 }
 
 TDesignerWindow::TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDialogs> dialogs,
-                                 const String& autoSaveFolder)
+                                 const String& userFolder)
     : TForm(AOwner),
       FDialogs(std::move(dialogs)),
       FValueDialogs(std::make_unique<TValueDialogs>()),
       FFile(FDocument),
       FProperties(FDocument, TPropertyList::TKind::Properties),
       FEvents(FDocument, TPropertyList::TKind::Events),
-      FAutoSave(autoSaveFolder) {
+      FAutoSave(userFolder),
+      FRecent(userFolder) {
     RegisterClasses({&TPaletteStrip::StaticClass(), &TInspectorGrid::StaticClass(),
                      &TQV7SkinToolbar::StaticClass(), &TQV7SkinSimpleTabControl::StaticClass(),
                      &TQV7SkinSplitter::StaticClass()});

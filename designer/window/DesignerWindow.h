@@ -5,6 +5,7 @@
 
 #include "designer/files/AutoSave.h"
 #include "designer/files/DesignFile.h"
+#include "designer/files/RecentFiles.h"
 #include "designer/inspector/InspectorGrid.h"
 #include "designer/inspector/PropertyEditors.h"
 #include "designer/palette/PaletteStrip.h"
@@ -13,8 +14,8 @@
 #include "designer/window/StructureBar.h"
 #include "header/UnitQV7SkinTabControl.h"
 #include "header/UnitQV7SkinToolbar.h"
+#include "menus/UnitQV7SkinMenus.h"
 #include "platform/vcl/forms/Form.h"
-#include "platform/vcl/menus/MainMenu.h"
 #include "platform/vcl/stdctrls/Memo.h"
 #include "platform/vcl/stdctrls/Panel.h"
 #include "platform/vcl/stdctrls/ScrollBox.h"
@@ -25,9 +26,9 @@ namespace designer {
 /// The designer's window: commands above, palette, inspector at the left, the form in the middle.
 class TDesignerWindow final : public TForm {
 public:
-    /// Reads the window from its form file. Unsaved work is kept in `autoSaveFolder` while the window lives.
-    TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDialogs> dialogs,
-                    const String& autoSaveFolder);
+    /// Reads the window from its form file. In `userFolder` it keeps unsaved work while it lives, and the
+    /// list of recent files.
+    TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDialogs> dialogs, const String& userFolder);
     ~TDesignerWindow() override;
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
@@ -47,6 +48,7 @@ public:
     [[nodiscard]] TQV7SkinSimpleTabControl& PaletteTabs() { return *FPaletteTabs; }
     [[nodiscard]] TMemo& TextMemo() { return *FTextMemo; }
     [[nodiscard]] TQV7SkinExplorerBar& Structure() { return *FStructure; }
+    [[nodiscard]] TQV7SkinMainMenu& MainMenu() { return *FMenu; }
     [[nodiscard]] String Status() const { return FStatus->GetCaption(); }
     [[nodiscard]] bool ShowsText() const { return FTextMemo->GetVisible(); }
 
@@ -93,9 +95,12 @@ private:
     void MakeContextMenu();
     void AddArrangeItems(TMenuItem& parent);
     void UpdateMenu(TObject* sender);
+    void UpdateRecentFiles(TObject* sender);
 
     // DesignerCommands.cpp
-    void Try(const std::function<void()>& command);
+    /// False when the command raised an error, which was shown.
+    bool Try(const std::function<void()>& command);
+    void OpenRecentFile(const String& name);
     [[nodiscard]] bool MayLeave();
     [[nodiscard]] bool AcceptText();
 
@@ -106,6 +111,7 @@ private:
     TPropertyList FProperties;
     TPropertyList FEvents;
     TAutoSave FAutoSave;
+    TRecentFiles FRecent;
     std::string FKept;  ///< What the autosave holds.
 
     TQV7SkinToolbar* FToolbar = nullptr;
@@ -120,10 +126,11 @@ private:
     TPanel* FStatus = nullptr;
     TTimer* FClock = nullptr;
     TDesignSurface* FSurface = nullptr;
-    TMainMenu* FMenu = nullptr;
-    TPopupMenu* FContextMenu = nullptr;
+    TQV7SkinMainMenu* FMenu = nullptr;
+    TQV7SkinPopupMenu* FContextMenu = nullptr;
     TMenuItem* FUndoItem = nullptr;
     TMenuItem* FRedoItem = nullptr;
+    TMenuItem* FRecentItem = nullptr;
     bool FUpdatingText = false;
 };
 

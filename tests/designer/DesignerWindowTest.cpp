@@ -1,102 +1,13 @@
-#include "designer/window/DesignerWindow.h"
-
-#include <utility>
-
-#include "designer/palette/PaletteIcons.h"
 #include "explorerbar/UnitQV7SkinExplorerGroups.h"
 #include "explorerbar/UnitQV7SkinExplorerItems.h"
 #include "header/UnitQV7SkinHeaderItems.h"
-#include "package/UnitQV7SkinRegister.h"
-#include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/Screen.h"
-#include "platform/vcl/forms/StandardClasses.h"
-#include "platform/vcl/stdctrls/Button.h"
 #include "platform/vcl/streaming/FormText.h"
-#include "tests/support/FormTest.h"
+#include "tests/designer/DesignerWindowFixture.h"
 #include "tests/support/Pump.h"
-#include "tests/support/TempDir.h"
 
 namespace designer {
 namespace {
-
-/// Answers without windows what the test has prepared.
-struct TPreparedAnswers {
-    TDesignerDialogs::TAnswer Save = TDesignerDialogs::TAnswer::Cancel;
-    std::optional<String> File;
-    std::optional<String> Name;
-    bool Yes = false;
-    int Questions = 0;
-    std::vector<String> Errors;
-};
-
-class TPreparedDialogs final : public TDesignerDialogs {
-public:
-    explicit TPreparedDialogs(TPreparedAnswers& answers) : FAnswers(answers) {}
-    TAnswer AskToSave(const String&) override { return ++FAnswers.Questions, FAnswers.Save; }
-    std::optional<String> AskFileToOpen() override { return FAnswers.File; }
-    std::optional<String> AskFileToSave(const String&) override { return FAnswers.File; }
-    bool AskToReload(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
-    bool AskToRecover(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
-    void ShowError(const String& message) override { FAnswers.Errors.push_back(message); }
-    std::optional<String> AskName(const String&) override { return FAnswers.Name; }
-
-private:
-    TPreparedAnswers& FAnswers;
-};
-
-constexpr char SampleFile[] =
-    "object MainForm: TMainForm\r\n  BorderStyle = bsNone\r\n  ClientHeight = 200\r\n  ClientWidth = 300\r\n"
-    "  object OkButton: TButton\r\n    Left = 16\r\n    Top = 16\r\n    Width = 80\r\n    Height = 24\r\n"
-    "    Caption = 'Fertig'\r\n    OnClick = OkButtonClick\r\n  end\r\nend\r\n";
-
-class DesignerWindowTest : public test::FormTest {
-protected:
-    void SetUp() override {
-        RegisterStandardClasses();
-        Register();
-        FormTest::SetUp();
-        Window = MakeWindow();
-    }
-    void TearDown() override {
-        Window.reset();
-        FormTest::TearDown();
-    }
-    std::unique_ptr<TDesignerWindow> MakeWindow() {
-        auto window = std::make_unique<TDesignerWindow>(nullptr, std::make_unique<TPreparedDialogs>(Answers),
-                                                        Dir.Path() + L"\\kept");
-        window->SetBounds(0, 0, 1000, 700);
-        window->Show();
-        test::PumpAll();
-        return window;
-    }
-    TDesignDocument& Document() { return Window->Document(); }
-    [[nodiscard]] HWND FormWindow() { return Document().Root().WindowHandle(); }
-    /// Presses the button of the class on its palette page.
-    void PressTool(const wchar_t* page, const wchar_t* className) {
-        auto& tabs = Window->PaletteTabs();
-        for (int i = 0; i < tabs.GetItems().GetCount(); ++i) {
-            if (tabs.GetItems()[i]->GetCaption() != page) continue;
-            tabs.ScrollInView(i);
-            const TRect tab = tabs.GetItemRect(i);
-            Input.ClickAt(tabs.WindowHandle(), tabs.GetHorzOffset() + tab.Left + 8, 12);
-        }
-        const TClassList& classes = Window->Strip().Classes();
-        for (std::size_t i = 0; i < classes.size(); ++i) {
-            if (String(classes[i]->ClassName()) != className) continue;
-            const TRect cell = TPaletteStrip::CellOf(static_cast<int>(i));
-            Input.ClickAt(Window->Strip().WindowHandle(), cell.Left + 12, cell.Top + 12);
-        }
-    }
-    void ChooseLine(const wchar_t* path) {
-        Window->Grid().Choose(path);
-        Window->Grid().SetFocus();
-    }
-    [[nodiscard]] bool TextHas(const char* part) { return Document().Text().find(part) != std::string::npos; }
-
-    test::TempDir Dir;
-    TPreparedAnswers Answers;
-    std::unique_ptr<TDesignerWindow> Window;
-};
 
 TEST_F(DesignerWindowTest, ShowsThePagesOfThePalette) {
     const TQV7SkinHeaderItems& tabs = Window->PaletteTabs().GetItems();
