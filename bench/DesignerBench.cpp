@@ -62,7 +62,7 @@ public:
         Send(*FSurface, WM_MOUSEMOVE, place);
         ::RedrawWindow(FDocument.Root().WindowHandle(), nullptr, nullptr, RDW_UPDATENOW | RDW_ALLCHILDREN);
     }
-    /// The least that such a move costs: the windows at another place, and the painting.
+    /// The same by the system's own means: the windows one by one to another place, and the painting.
     void MoveWindows() {
         FStep = (FStep + 8) % 160;
         for (TComponent* component : FDocument.Selection().Items()) {

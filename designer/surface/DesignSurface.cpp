@@ -218,14 +218,15 @@ void TDesignSurface::SetPointer(TPoint point) {
 
 void TDesignSurface::PaintGrid() {
     TCanvas& canvas = Root().GetCanvas();
+    const TRect area = canvas.GetClipRect().Intersect(Root().GetClientRect());
     canvas.GetBrush().SetColor(Root().GetColor());
-    canvas.FillRect(Root().GetClientRect());
+    canvas.FillRect(area);
     if (!ShowGrid || Snapping.Grid < 2) return;
-    const TRect area = Root().GetClientRect();
-    const TColor dot = GetQV7SkinColorLinkText();
-    for (int y = 0; y < area.Bottom; y += Snapping.Grid)
-        for (int x = 0; x < area.Right; x += Snapping.Grid)
-            ::SetPixelV(canvas.GetHandle(), x, y, ColorToRGB(dot));
+    const auto firstFrom = [grid = Snapping.Grid](int begin) { return (begin + grid - 1) / grid * grid; };
+    const COLORREF dot = ColorToRGB(GetQV7SkinColorLinkText());
+    for (int y = firstFrom(area.Top); y < area.Bottom; y += Snapping.Grid)
+        for (int x = firstFrom(area.Left); x < area.Right; x += Snapping.Grid)
+            ::SetPixelV(canvas.GetHandle(), x, y, dot);
 }
 
 void TDesignSurface::Dispatch(TMessage& message) {

@@ -84,7 +84,8 @@ private:
     void EndDrag();
     void CollectMoved();
     void CollectOthers();
-    [[nodiscard]] bool MovesIcons() const;
+    [[nodiscard]] std::vector<TRect> PlacesAround() const;
+    void ShowMoved(const TRect& leader, const std::vector<TRect>& places);
     [[nodiscard]] TRect Band(TPoint point) const;
     void Nudge(int dx, int dy, bool sizing);
 

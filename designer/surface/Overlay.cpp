@@ -1,5 +1,7 @@
 #include "designer/surface/Overlay.h"
 
+#include <utility>
+
 #include "platform/vcl/graphics/Brush.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Pen.h"
@@ -37,12 +39,25 @@ void TOverlay::Dispatch(TMessage& message) {
         TCustomControl::Dispatch(message);
 }
 
-void TOverlays::Show(HWND formWindow, const std::vector<TRect>& places) {
-    if (FItems.size() > places.size()) FItems.resize(places.size());
+void TOverlays::Show(HWND formWindow, std::vector<TRect> places) {
     while (FItems.size() < places.size())
         FItems.push_back(std::make_unique<TOverlay>(formWindow, FColor, FBorderColor));
-    for (std::size_t i = 0; i < places.size(); ++i)
-        FItems[i]->ShowAt(places[i]);
+    for (std::size_t i = places.size(); i < FPlaces.size(); ++i)
+        FItems[i]->Hide();
+    FPlaces = std::move(places);
+    for (std::size_t i = 0; i < FPlaces.size(); ++i)
+        FItems[i]->ShowAt(FPlaces[i]);
+}
+
+void TOverlays::Hide() {
+    for (std::size_t i = 0; i < FPlaces.size(); ++i)
+        FItems[i]->Hide();
+    FPlaces.clear();
+}
+
+void TOverlays::Clear() {
+    FItems.clear();
+    FPlaces.clear();
 }
 
 }  // namespace designer

@@ -31,14 +31,19 @@ public:
     TOverlays(TColor color, TColor borderColor) : FColor(color), FBorderColor(borderColor) {}
 
     /// Shows one at each of the places and hides the rest.
-    void Show(HWND formWindow, const std::vector<TRect>& places);
-    void Clear() { FItems.clear(); }
-    [[nodiscard]] std::size_t Count() const { return FItems.size(); }
+    void Show(HWND formWindow, std::vector<TRect> places);
+    /// Hides all; the windows stay for the next time.
+    void Hide();
+    /// Frees all windows.
+    void Clear();
+    /// Where one is shown, in client pixels of the form.
+    [[nodiscard]] const std::vector<TRect>& Places() const { return FPlaces; }
 
 private:
     TColor FColor;
     TColor FBorderColor;
-    std::vector<std::unique_ptr<TOverlay>> FItems;
+    std::vector<std::unique_ptr<TOverlay>> FItems;  ///< Those behind the last of the places are hidden.
+    std::vector<TRect> FPlaces;
 };
 
 }  // namespace designer

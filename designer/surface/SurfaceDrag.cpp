@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <cstdlib>
 #include <set>
-#include <span>
+#include <utility>
 
 #include "designer/model/Arranging.h"
 #include "designer/model/Placing.h"
 #include "designer/surface/DesignSurface.h"
 #include "designer/surface/Handles.h"
+#include "designer/surface/QuietMoves.h"
 
 namespace designer {
 namespace {
@@ -21,14 +22,21 @@ std::vector<TRect> EdgesAsRects(const TRect& r) {
             TRect::OfSize(r.Left, r.Top, 1, r.Height()), TRect::OfSize(r.Right - 1, r.Top, 1, r.Height())};
 }
 
-/// Lets the parents of controls lay out their children once, when all of them have moved.
+using TMoved = std::vector<std::pair<TComponent*, TRect>>;
+
+std::set<TWinControl*> ParentsOf(const TMoved& moved) {
+    std::set<TWinControl*> parents;
+    for (const auto& [component, place] : moved) {
+        auto* control = dynamic_cast<TControl*>(component);
+        if (control && control->GetParent()) parents.insert(control->GetParent());
+    }
+    return parents;
+}
+
+/// Lets parents lay out their controls once, when all of those have moved.
 class TLayoutPause {
 public:
-    explicit TLayoutPause(std::span<const std::pair<TComponent*, TRect>> moved) {
-        for (const auto& [component, place] : moved) {
-            auto* control = dynamic_cast<TControl*>(component);
-            if (control && control->GetParent()) FParents.insert(control->GetParent());
-        }
+    explicit TLayoutPause(std::set<TWinControl*> parents) : FParents(std::move(parents)) {
         for (TWinControl* parent : FParents)
             parent->DisableAlign();
     }
@@ -141,28 +149,53 @@ void TDesignSurface::CollectOthers() {
     }
 }
 
-bool TDesignSurface::MovesIcons() const {
-    return std::ranges::any_of(
-        FMoved, [](const auto& entry) { return TComponentIcons::IsShownByIcon(*entry.first); });
+/// Where everything stands that may move with what is dragged: its siblings give way when they are aligned.
+std::vector<TRect> TDesignSurface::PlacesAround() const {
+    std::vector<TRect> places;
+    for (const auto& [component, place] : FMoved)
+        places.push_back(PlaceInForm(*component));
+    for (const TWinControl* parent : ParentsOf(FMoved)) {
+        const TPoint origin = parent == &Root() ? TPoint() : ToForm(parent->ClientToScreen({0, 0}));
+        for (int i = 0; i < parent->GetControlCount(); ++i)
+            places.push_back(Shifted(parent->GetControl(i)->GetBoundsRect(), origin.X, origin.Y));
+    }
+    return places;
+}
+
+/// Gives what moves its new places and shows the guides of the leader's, all at once.
+void TDesignSurface::ShowMoved(const TRect& leader, const std::vector<TRect>& places) {
+    TQuietMoves quiet(Root());
+    const std::vector<TRect> before = PlacesAround();
+    {
+        const TLayoutPause pause(ParentsOf(FMoved));
+        for (std::size_t i = 0; i < places.size(); ++i)
+            SetPlaceOf(*FMoved[i].first, places[i]);
+    }
+    const std::vector<TRect> after = PlacesAround();
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        if (before[i] == after[i]) continue;
+        quiet.Touch(before[i]);
+        quiet.Touch(after[i]);
+    }
+    quiet.Touch(FGuides.Places());
+    std::vector<TRect> lines;
+    for (const TGuide& guide : GuidesOf(leader, FOthers))
+        lines.push_back(guide.Line);
+    FGuides.Show(Root().WindowHandle(), std::move(lines));
+    quiet.Touch(FGuides.Places());
+    FIcons.Show(Root());
+    quiet.Show();
 }
 
 void TDesignSurface::MoveTo(TPoint point) {
     const TRect wanted = Shifted(FLeader, point.X - FStart.X, point.Y - FStart.Y);
     const TRect snapped = Snapped(wanted, {}, FOthers, Snapping);
-    const int dx = snapped.Left - FLeader.Left;
-    const int dy = snapped.Top - FLeader.Top;
-    {
-        const TLayoutPause pause(FMoved);
-        for (const auto& [component, place] : FMoved)
-            SetPlaceOf(*component, Shifted(place, dx, dy));
-    }
-    FHandles.Clear();
-    FMarks.Clear();
-    if (MovesIcons()) FIcons.Show(Root());
-    std::vector<TRect> lines;
-    for (const TGuide& guide : GuidesOf(snapped, FOthers))
-        lines.push_back(guide.Line);
-    FGuides.Show(Root().WindowHandle(), lines);
+    std::vector<TRect> places;
+    for (const auto& [component, place] : FMoved)
+        places.push_back(Shifted(place, snapped.Left - FLeader.Left, snapped.Top - FLeader.Top));
+    FHandles.Hide();
+    FMarks.Hide();
+    ShowMoved(snapped, places);
     OnDragged(designer::PlaceOf(*FMoved.front().first));
 }
 
@@ -170,12 +203,8 @@ void TDesignSurface::SizeTo(TPoint point) {
     const TRect wanted = WithEdgesMoved(FLeader, FEdges, point.X - FStart.X, point.Y - FStart.Y);
     const TRect snapped = Snapped(wanted, FEdges, FOthers, Snapping);
     const auto& [component, place] = FMoved.front();
-    SetPlaceOf(*component, Shifted(snapped, place.Left - FLeader.Left, place.Top - FLeader.Top));
+    ShowMoved(snapped, {Shifted(snapped, place.Left - FLeader.Left, place.Top - FLeader.Top)});
     UpdateMarks();
-    std::vector<TRect> lines;
-    for (const TGuide& guide : GuidesOf(snapped, FOthers))
-        lines.push_back(guide.Line);
-    FGuides.Show(Root().WindowHandle(), lines);
     OnDragged(designer::PlaceOf(*component));
 }
 
@@ -268,8 +297,8 @@ bool TDesignSurface::CancelDrag() {
 }
 
 void TDesignSurface::EndDrag() {
-    FGuides.Clear();
-    FBand.Clear();
+    FGuides.Hide();
+    FBand.Hide();
 }
 
 }  // namespace designer

@@ -12,6 +12,7 @@
 #include "platform/vcl/streaming/ClassRegistry.h"
 #include "platform/vcl/streaming/FormText.h"
 #include "tests/support/FormTest.h"
+#include "tests/support/PixelProbe.h"
 
 namespace designer {
 namespace {
@@ -126,6 +127,51 @@ TEST_F(DesignSurfaceTest, ADragMovesWhatIsChosenToTheGridAsOneEdit) {
     EXPECT_EQ(Document->History().Count(), 1u);
     Document->Undo();
     EXPECT_EQ(Find<TButton>(L"Button1").GetBoundsRect(), TRect::OfSize(16, 16, 80, 24));
+}
+
+TEST_F(DesignSurfaceTest, ADragPaintsWhatACompletePaintingWould) {
+    Surface->Snapping.UseGuides = true;
+    Document->Begin(
+        ParseFormText(L"object Form1: TForm1 BorderStyle = bsNone ClientWidth = 300 ClientHeight = 200\n"
+                      L"object Label1: TLabel Left = 40 Top = 90 Width = 60 Height = 40 AutoSize = False "
+                      L"Caption = 'Text' end\n"
+                      L"object Side: TPanel Align = alLeft Width = 32 end\n"
+                      L"object Rest: TPanel Align = alBottom Height = 60\n"
+                      L"  object Edit1: TEdit Left = 8 Top = 8 Width = 64 Height = 24 end\n"
+                      L"end\n"
+                      L"object Button1: TButton Left = 48 Top = 16 Width = 80 Height = 24 end\n"
+                      L"object Button2: TButton Left = 72 Top = 32 Width = 80 Height = 24 end\n"
+                      L"object Timer1: TTimer Left = 200 Top = 8 end\n"
+                      L"end"));
+    const auto expectSame = [this](const char* what) {
+        // What waits to be painted would hide what is missing.
+        const test::Pixels dragged = test::ReadWindow(Window());
+        ::RedrawWindow(Window(), nullptr, nullptr,
+                       RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+        EXPECT_TRUE(test::SamePixels(dragged, test::ReadWindow(Window()))) << what;
+    };
+    const auto dragAround = [&](TPoint from, const char* what) {
+        Input.MoveTo(Window(), from.X, from.Y);
+        Input.Press();
+        for (const TPoint step :
+             {TPoint{9, 4}, TPoint{24, 40}, TPoint{-14, 71}, TPoint{60, 100}, TPoint{3, 3}}) {
+            Input.MoveTo(Window(), from.X + step.X, from.Y + step.Y);
+            expectSame(what);
+        }
+        Input.Release();
+        Document->Undo();
+    };
+    dragAround({60, 20}, "a control with a window");
+    dragAround({50, 100}, "one without, under others");
+    dragAround({210, 20}, "an icon");
+    dragAround({48, 152}, "one in another");
+    Document->Selection().Set({&Find<TControl>(L"Label1"), &Find<TControl>(L"Button2"),
+                               &Find<TControl>(L"Edit1"), Document->Root().FindComponent(L"Timer1")});
+    dragAround({50, 100}, "several");
+    Document->Selection().SetOnly(&Find<TPanel>(L"Side"));
+    dragAround({31, 70}, "the edge of an aligned one");
+    Document->Selection().SetOnly(&Find<TPanel>(L"Rest"));
+    dragAround({165, 140}, "another one");
 }
 
 TEST_F(DesignSurfaceTest, AMoveOfAFewPixelsIsNoDrag) {
