@@ -1,5 +1,6 @@
 // What the commands of menus and toolbar do.
 
+#include "designer/dialogs/TabOrderDialog.h"
 #include "designer/files/SafeFile.h"
 #include "designer/model/Clipping.h"
 #include "designer/model/Placing.h"
@@ -145,6 +146,10 @@ void TDesignerWindow::RenameChosen() {
     TComponent& component = leader ? *leader : FDocument.Root();
     const auto name = FDialogs->AskName(component.GetName());
     if (name && *name != component.GetName()) Try([&] { Rename(FDocument, component, *name); });
+}
+
+void TDesignerWindow::EditTabOrder() {
+    Try([this] { designer::EditTabOrder(FDocument, TabOrderParent(FDocument)); });
 }
 
 // --- text and preview

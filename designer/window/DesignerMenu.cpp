@@ -94,6 +94,8 @@ void TDesignerWindow::AddArrangeItems(TMenuItem& parent) {
     parent.NewBottomLine();
     AddItem(parent, L"Nach &vorn", nullptr, [this] { BringSelectionToFront(FDocument); });
     AddItem(parent, L"Nach h&inten", nullptr, [this] { SendSelectionToBack(FDocument); });
+    parent.NewBottomLine();
+    AddItem(parent, L"&Tabulatorfolge …", nullptr, [this] { EditTabOrder(); });
 }
 
 void TDesignerWindow::MakeContextMenu() {

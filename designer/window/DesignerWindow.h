@@ -66,6 +66,7 @@ public:
     void Delete();
     void ChooseAll();
     void RenameChosen();
+    void EditTabOrder();
     /// Switches between the form and its text. Stays with a text that can't be parsed.
     void ToggleText();
     void Preview();
