@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "menus/MenuGradient.h"
 #include "platform/vcl/graphics/ImageList.h"
 #include "tests/menus/PainterFixture.h"
 #include "tests/support/PixelProbe.h"
@@ -376,49 +375,6 @@ TEST_F(MenuItemPainterTest, ANewPainterHasAllParts) {
     EXPECT_EQ(Painter->GetDrawingParts(),
               (TQV7SkinMenuItemPainterParts{mipSeparatorText, mipDescription, mipShortCut, mipGutter}));
     EXPECT_TRUE(dynamic_cast<TQV7SkinMenuItemPainterNice*>(QV7SkinMenuItemPainter()));
-}
-
-// --- gradient
-
-TEST_F(MenuItemPainterTest, GradientsHaveExactlyTheirBands) {
-    for (const int length : {1, 7, 39, 60}) {
-        const Pixels shown = DrawOn([&](TCanvas& canvas) {
-            DrawGradientBands(canvas.GetHandle(), {0, 0, Width, length}, 256, 0x00112233, 0x00FF0080,
-                              gdVertical);
-        });
-        for (int y = 0; y < length; ++y)
-            EXPECT_EQ(shown.At(50, y), GradientRow(y, length, 0x00112233, 0x00FF0080))
-                << y << " of " << length;
-        if (length < Height) {
-            EXPECT_EQ(shown.At(50, length), COLORREF{clWhite});
-        }
-    }
-    const Pixels across = DrawOn([&](TCanvas& canvas) {
-        DrawGradientBands(canvas.GetHandle(), {10, 0, 110, 9}, 256, 0, 0x00FFFFFF, gdHorizontal);
-    });
-    for (int x = 0; x < 100; ++x)
-        EXPECT_EQ(across.At(10 + x, 4), GradientRow(x, 100, 0, 0x00FFFFFF));
-}
-
-TEST_F(MenuItemPainterTest, FewStepsMakeWideBandsAndNoneDrawNothing) {
-    const Pixels shown = DrawOn([&](TCanvas& canvas) {
-        DrawGradientBands(canvas.GetHandle(), {0, 0, Width, 10}, 4, 0, 0x00040404, gdVertical);
-    });
-    // Edges at 0, 2 (2.5), 5, 8 (7.5), 10.
-    for (const auto& [y, level] : {std::pair{1, 1}, {2, 2}, {4, 2}, {5, 3}, {7, 3}, {8, 4}, {9, 4}})
-        EXPECT_EQ(shown.At(3, y), RGB(level, level, level)) << y;
-    const Pixels nothing = DrawOn([&](TCanvas& canvas) {
-        DrawGradientBands(canvas.GetHandle(), {0, 0, Width, 10}, 0, 0, 0, gdVertical);
-        DrawGradientBands(canvas.GetHandle(), {0, 0, Width, 0}, 256, 0, 0, gdVertical);
-    });
-    EXPECT_EQ(nothing.Count(clWhite), Width * Height);
-}
-
-TEST_F(MenuItemPainterTest, SystemColoursAreLookedUp) {
-    const Pixels shown = DrawOn([&](TCanvas& canvas) {
-        DrawGradientBands(canvas.GetHandle(), {0, 0, Width, 5}, 256, clHighlight, clHighlight, gdVertical);
-    });
-    EXPECT_EQ(shown.At(0, 0), ColorToRGB(clHighlight));
 }
 
 }  // namespace

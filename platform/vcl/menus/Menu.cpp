@@ -206,8 +206,9 @@ bool TMenu::HandleMessage(HWND window, TMessage& message) {
 }
 
 bool TMenu::WmInitMenuPopup(const TMessage& message) {
-    // The user may have chosen another font since the last time.
+    // The user may have chosen another font or screen since the last time.
     FFont.reset();
+    FWidestItem = -1;
     return DispatchPopup(reinterpret_cast<HMENU>(message.WParam));
 }
 

@@ -82,6 +82,8 @@ private:
     [[nodiscard]] bool Has(const TMenuItem* item) const;
     [[nodiscard]] TMenuItem* FindOpened(HMENU handle) const;
     [[nodiscard]] TFont& MenuFont();
+    /// What an item can be wide at most: the part of the screen that menus open on.
+    [[nodiscard]] int WidestItem(HWND window);
     bool WmInitMenuPopup(const TMessage& message);
     bool WmMenuSelect(const TMessage& message);
     bool WmMenuChar(TMessage& message);
@@ -93,6 +95,7 @@ private:
     TCustomImageList* FImages = nullptr;
     std::unique_ptr<TChangeLink> FImagesLink;
     std::unique_ptr<TFont> FFont;
+    int FWidestItem = -1;  ///< As looked up last; below 0 when it has to be.
     bool FOwnerDraw = false;
 };
 

@@ -37,15 +37,6 @@ private:
     TSaveDC FState;
 };
 
-/// What an item can be wide at most: the part of the screen that menus open on.
-int WidestItem(HWND window) {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    if (!::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info)) return INT_MAX;
-    const int frame = 2 * (::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXMENUCHECK));
-    return info.rcWork.right - info.rcWork.left - frame;
-}
-
 }  // namespace
 
 TFont& TMenu::MenuFont() {
@@ -60,6 +51,17 @@ TFont& TMenu::MenuFont() {
     return *FFont;
 }
 
+int TMenu::WidestItem(HWND window) {
+    if (FWidestItem < 0) {
+        MONITORINFO info{};
+        info.cbSize = sizeof info;
+        if (!::GetMonitorInfoW(::MonitorFromWindow(window, MONITOR_DEFAULTTONEAREST), &info)) return INT_MAX;
+        const int frame = 2 * (::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXMENUCHECK));
+        FWidestItem = std::max(static_cast<int>(info.rcWork.right - info.rcWork.left) - frame, 0);
+    }
+    return FWidestItem;
+}
+
 bool TMenu::WmMeasureItem(HWND window, TMessage& message) {
     auto& info = *message.As<MEASUREITEMSTRUCT>();
     // The number of an item with a submenu is cut off; the data are what counts.
@@ -70,7 +72,7 @@ bool TMenu::WmMeasureItem(HWND window, TMessage& message) {
     int width = 0;
     int height = 0;
     item->Measure(canvas, width, height);
-    info.itemWidth = static_cast<UINT>(std::clamp(width, 0, std::max(WidestItem(window), 0)));
+    info.itemWidth = static_cast<UINT>(std::clamp(width, 0, WidestItem(window)));
     info.itemHeight = static_cast<UINT>(std::max(height, 0));
     message.Result = 1;
     return true;
@@ -80,13 +82,15 @@ bool TMenu::WmDrawItem(TMessage& message) {
     const auto& info = *message.As<DRAWITEMSTRUCT>();
     TMenuItem* item = info.CtlType == ODT_MENU ? FindItem(info.itemData, fkCommand) : nullptr;
     if (!item) return false;
+    message.Result = 1;
+    // A menu that is longer than the screen asks for all of its items each time.
+    if (!::RectVisible(info.hDC, &info.rcItem)) return true;
     TLentCanvas canvas(info.hDC, MenuFont());
     TOwnerDrawState state = StateOf(info.itemState);
     // Not every system tells these.
     state.Put(odChecked, item->GetChecked());
     state.Put(odDefault, item->GetDefault());
     item->Draw(canvas, info.rcItem, state);
-    message.Result = 1;
     return true;
 }
 

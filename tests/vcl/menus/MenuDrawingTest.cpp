@@ -248,6 +248,31 @@ TEST_F(MenuDrawingTest, TheLastItemOfAMenuLongerThanTheScreenCanBeReached) {
     EXPECT_LE(place.bottom, GetSystemMetrics(SM_CYSCREEN));
 }
 
+TEST_F(MenuDrawingTest, OfALongMenuOnlyWhatIsSeenIsDrawn) {
+    int drawn = 0;
+    bool lastWasDrawn = false;
+    for (int i = 0; i < 400; ++i)
+        AddItem(Menu->GetItems(), L"Item")->OnDrawItem = [&](TObject*, TCanvas&, const TRect&, bool) {
+            ++drawn;
+        };
+    AddItem(Menu->GetItems(), L"Last")->OnDrawItem = [&](TObject*, TCanvas&, const TRect&, bool) {
+        lastWasDrawn = true;
+    };
+    int drawnAtFirst = 0;
+    bool lastWasDrawnAtFirst = false;
+    WhenOpen([&] {
+        drawnAtFirst = drawn;
+        lastWasDrawnAtFirst = lastWasDrawn;
+        Input.KeyPress(VK_UP);
+    });
+    WhenHighlighted(403, [&] { Input.KeyPress(VK_ESCAPE); });
+    Open();
+    EXPECT_GT(drawnAtFirst, 10);
+    EXPECT_LT(drawnAtFirst, 200);
+    EXPECT_FALSE(lastWasDrawnAtFirst);
+    EXPECT_TRUE(lastWasDrawn);
+}
+
 TEST_F(MenuDrawingTest, AnItemMayBeFreedWhileItIsMeasured) {
     TMenuItem* item = Menu->GetItems().GetItem(1);
     item->OnMeasureItem = [&](TObject*, TCanvas&, int&, int&) {
