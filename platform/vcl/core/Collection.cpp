@@ -1,8 +1,7 @@
 #include "platform/vcl/core/Collection.h"
 
 #include "platform/vcl/core/DefineClass.h"
-
-#include <algorithm>
+#include "platform/vcl/core/MoveElement.h"
 
 namespace vcl {
 
@@ -142,12 +141,7 @@ void TCollection::RemoveItem(TCollectionItem* item) {
 }
 
 void TCollection::MoveItem(int from, int to) {
-    const auto source = FItems.begin() + from;
-    const auto target = FItems.begin() + to;
-    if (source < target)
-        std::rotate(source, source + 1, target + 1);
-    else
-        std::rotate(target, source, source + 1);
+    MoveElement(FItems, from, to);
 }
 
 String TCollection::PropertyName() const {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/MoveElement.h"
 
 namespace vcl {
 
@@ -72,12 +73,7 @@ int TObjectList::IndexOf(const TObject* object) const {
 void TObjectList::Move(int currentIndex, int newIndex) {
     CheckIndex(currentIndex, GetCount());
     CheckIndex(newIndex, GetCount());
-    const auto from = FItems.begin() + currentIndex;
-    const auto to = FItems.begin() + newIndex;
-    if (from < to)
-        std::rotate(from, from + 1, to + 1);
-    else
-        std::rotate(to, from, from + 1);
+    MoveElement(FItems, currentIndex, newIndex);
 }
 
 void TObjectList::Exchange(int a, int b) {

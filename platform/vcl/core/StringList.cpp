@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/MoveElement.h"
 
 namespace vcl {
 
@@ -79,12 +80,7 @@ void TStringList::Move(int currentIndex, int newIndex) {
     CheckIndex(newIndex, GetCount());
     if (currentIndex == newIndex) return;
     Changing();
-    const auto from = FItems.begin() + currentIndex;
-    const auto to = FItems.begin() + newIndex;
-    if (from < to)
-        std::rotate(from, from + 1, to + 1);
-    else
-        std::rotate(to, from, from + 1);
+    MoveElement(FItems, currentIndex, newIndex);
     Changed();
 }
 
