@@ -6,6 +6,7 @@
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/DeviceContexts.h"
 #include "platform/vcl/graphics/Font.h"
+#include "platform/vcl/stdctrls/WindowBorder.h"
 
 namespace vcl {
 namespace {
@@ -126,17 +127,11 @@ void TCustomEdit::CreateParams(TCreateParams& params) {
     if (!FHideSelection) params.Style |= ES_NOHIDESEL;
     if (FReadOnly) params.Style |= ES_READONLY;
     if (FNumbersOnly) params.Style |= ES_NUMBER;
-    if (FBorderStyle != bsSingle) return;
-    if (GetCtl3D())
-        params.ExStyle |= WS_EX_CLIENTEDGE;
-    else
-        params.Style |= WS_BORDER;
+    if (FBorderStyle == bsSingle) AddWindowBorder(params, GetCtl3D());
 }
 
 TRect TCustomEdit::GetFrameInsets() const {
-    if (FBorderStyle != bsSingle) return TWinControl::GetFrameInsets();
-    const int width = ::GetSystemMetrics(GetCtl3D() ? SM_CXEDGE : SM_CXBORDER);
-    return {width, width, width, width};
+    return FBorderStyle == bsSingle ? WithWindowBorder({}, GetCtl3D()) : TWinControl::GetFrameInsets();
 }
 
 void TCustomEdit::CreateWnd() {

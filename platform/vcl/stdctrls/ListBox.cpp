@@ -5,6 +5,7 @@
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/stdctrls/WindowBorder.h"
 
 namespace vcl {
 
@@ -123,17 +124,11 @@ void TCustomListBox::CreateParams(TCreateParams& params) {
     params.Style |= WS_VSCROLL | WS_HSCROLL | LBS_HASSTRINGS | LBS_NOTIFY;
     if (FMultiSelect) params.Style |= LBS_MULTIPLESEL;
     if (!FIntegralHeight) params.Style |= LBS_NOINTEGRALHEIGHT;
-    if (FBorderStyle != bsSingle) return;
-    if (GetCtl3D())
-        params.ExStyle |= WS_EX_CLIENTEDGE;
-    else
-        params.Style |= WS_BORDER;
+    if (FBorderStyle == bsSingle) AddWindowBorder(params, GetCtl3D());
 }
 
 TRect TCustomListBox::GetFrameInsets() const {
-    if (FBorderStyle != bsSingle) return TWinControl::GetFrameInsets();
-    const int width = ::GetSystemMetrics(GetCtl3D() ? SM_CXEDGE : SM_CXBORDER);
-    return {width, width, width, width};
+    return FBorderStyle == bsSingle ? WithWindowBorder({}, GetCtl3D()) : TWinControl::GetFrameInsets();
 }
 
 void TCustomListBox::CreateWnd() {

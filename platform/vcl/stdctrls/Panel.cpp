@@ -6,6 +6,7 @@
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/stdctrls/Frame3D.h"
+#include "platform/vcl/stdctrls/WindowBorder.h"
 
 namespace vcl {
 namespace {
@@ -108,18 +109,12 @@ void TCustomPanel::BorderChanged() {
 
 void TCustomPanel::CreateParams(TCreateParams& params) {
     TCustomControl::CreateParams(params);
-    if (FBorderStyle != bsSingle) return;
-    if (GetCtl3D())
-        params.ExStyle |= WS_EX_CLIENTEDGE;
-    else
-        params.Style |= WS_BORDER;
+    if (FBorderStyle == bsSingle) AddWindowBorder(params, GetCtl3D());
 }
 
 TRect TCustomPanel::GetFrameInsets() const {
-    TRect insets = TCustomControl::GetFrameInsets();
-    if (FBorderStyle != bsSingle) return insets;
-    const int width = ::GetSystemMetrics(GetCtl3D() ? SM_CXEDGE : SM_CXBORDER);
-    return {insets.Left + width, insets.Top + width, insets.Right + width, insets.Bottom + width};
+    const TRect insets = TCustomControl::GetFrameInsets();
+    return FBorderStyle == bsSingle ? WithWindowBorder(insets, GetCtl3D()) : insets;
 }
 
 int TCustomPanel::BevelExtent() const {

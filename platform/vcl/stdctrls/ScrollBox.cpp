@@ -2,6 +2,7 @@
 
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/stdctrls/WindowBorder.h"
 
 namespace vcl {
 
@@ -44,18 +45,12 @@ void TScrollBox::SetBorderStyle(TBorderStyle value) {
 
 void TScrollBox::CreateParams(TCreateParams& params) {
     TScrollingWinControl::CreateParams(params);
-    if (FBorderStyle != bsSingle) return;
-    if (GetCtl3D())
-        params.ExStyle |= WS_EX_CLIENTEDGE;
-    else
-        params.Style |= WS_BORDER;
+    if (FBorderStyle == bsSingle) AddWindowBorder(params, GetCtl3D());
 }
 
 TRect TScrollBox::GetFrameInsets() const {
-    TRect insets = TScrollingWinControl::GetFrameInsets();
-    if (FBorderStyle != bsSingle) return insets;
-    const int width = ::GetSystemMetrics(GetCtl3D() ? SM_CXEDGE : SM_CXBORDER);
-    return {insets.Left + width, insets.Top + width, insets.Right + width, insets.Bottom + width};
+    const TRect insets = TScrollingWinControl::GetFrameInsets();
+    return FBorderStyle == bsSingle ? WithWindowBorder(insets, GetCtl3D()) : insets;
 }
 
 void TScrollBox::Dispatch(TMessage& message) {
