@@ -207,37 +207,30 @@ void TActionMenuLoop::MouseUp(TPoint screen) {
 
 // --- keyboard
 
-void TActionMenuLoop::MoveAlongBar(int step, bool open) {
-    const auto& controls = FBar.ActionControls();
-    if (controls.empty()) return;
+TCustomActionControl* TActionMenuLoop::Beside(const TCustomActionBar& bar, int step) {
+    const auto& controls = bar.ActionControls();
     const auto count = static_cast<int>(controls.size());
-    const auto present = std::find(controls.begin(), controls.end(), SelectedIn(FBar));
+    const auto present = std::find(controls.begin(), controls.end(), SelectedIn(bar));
     int index =
         present == controls.end() ? (step > 0 ? -1 : count) : static_cast<int>(present - controls.begin());
     for (int tries = 0; tries < count; ++tries) {
         index = (index + step + count) % count;
         TCustomActionControl* next = controls[static_cast<std::size_t>(index)];
-        if (next->IsSeparator()) continue;
-        if (!open || !Open(FBar, *next, true)) {
-            if (IsActive()) CloseFrom(0), Select(FBar, next);
-        }
-        return;
+        if (!next->IsSeparator()) return next;
     }
+    return nullptr;
+}
+
+void TActionMenuLoop::MoveAlongBar(int step, bool open) {
+    TCustomActionControl* next = Beside(FBar, step);
+    if (!next || (open && Open(FBar, *next, true)) || !IsActive()) return;
+    CloseFrom(0);
+    Select(FBar, next);
 }
 
 void TActionMenuLoop::MoveInMenu(int step) {
     TCustomActionBar& menu = Deepest();
-    const auto& controls = menu.ActionControls();
-    const auto count = static_cast<int>(controls.size());
-    const auto present = std::find(controls.begin(), controls.end(), SelectedIn(menu));
-    int index =
-        present == controls.end() ? (step > 0 ? -1 : count) : static_cast<int>(present - controls.begin());
-    for (int tries = 0; tries < count; ++tries) {
-        index = (index + step + count) % count;
-        TCustomActionControl* next = controls[static_cast<std::size_t>(index)];
-        if (next->IsSeparator()) continue;
-        return Select(menu, next);
-    }
+    if (TCustomActionControl* next = Beside(menu, step)) Select(menu, next);
 }
 
 void TActionMenuLoop::SelectEdge(bool last) {

@@ -50,6 +50,9 @@ private:
     void MouseUp(TPoint screen);
     // keyboard
     bool KeyDown(MSG& message);
+    /// The control that follows the highlighted one (step 1) or stands before it (-1), past separators and
+    /// round the ends; without a highlighted one the first or the last. Null when there are only separators.
+    [[nodiscard]] static TCustomActionControl* Beside(const TCustomActionBar& bar, int step);
     void MoveAlongBar(int step, bool open);
     void MoveInMenu(int step);
     void SelectEdge(bool last);
