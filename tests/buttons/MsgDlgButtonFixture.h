@@ -13,20 +13,10 @@ namespace test {
 class ProbeMsgDlgButton : public qv7skin::TQV7SkinButtonMsgDlg {
 public:
     using TQV7SkinButtonMsgDlg::TQV7SkinButtonMsgDlg;
-    int Bitmaps = 0;
     int Paints = 0;
     std::vector<vcl::TRect> CaptionPlaces;
     std::vector<vcl::TRect> DescriptionPlaces;
 
-protected:
-    void Paint() override {
-        ++Paints;
-        TQV7SkinButtonMsgDlg::Paint();
-    }
-    void DrawBitmap(const vcl::TRect& Rect, vcl::TCanvas& Canvas, vcl::TBitmap& Bitmap) override {
-        ++Bitmaps;
-        TQV7SkinButtonMsgDlg::DrawBitmap(Rect, Canvas, Bitmap);
-    }
     void DrawCaption(UINT Flags, vcl::TRect& Rect) override {
         CaptionPlaces.push_back(Rect);
         TQV7SkinButtonMsgDlg::DrawCaption(Flags, Rect);
@@ -34,6 +24,12 @@ protected:
     void DrawDescription(UINT Flags, vcl::TRect& Rect) override {
         DescriptionPlaces.push_back(Rect);
         TQV7SkinButtonMsgDlg::DrawDescription(Flags, Rect);
+    }
+
+protected:
+    void Paint() override {
+        ++Paints;
+        TQV7SkinButtonMsgDlg::Paint();
     }
 };
 

@@ -1,3 +1,5 @@
+#include <functional>
+
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Font.h"
 #include "tests/buttons/MsgDlgButtonFixture.h"
@@ -135,12 +137,19 @@ TEST_F(MsgDlgButtonTest, TheTextBlockStandsInTheMiddleAndKeepsTheMargins) {
 }
 
 TEST_F(MsgDlgButtonTest, CaptionAndDescriptionMoveThePlaceDown) {
-    const TRect caption = Button->CaptionPlaces.back(), description = Button->DescriptionPlaces.back();
-    EXPECT_EQ(
-        description.Top - caption.Top + 2 * (Button->GetTextHeight() - (description.Top - caption.Top)) / 2,
-        Button->GetTextHeight());
-    EXPECT_GT(description.Top, caption.Top + 10);
-    EXPECT_EQ(description.Bottom, caption.Bottom);
+    const auto lineHeight = [](const TFont& font) {
+        TBitmap bitmap(1, 1);
+        bitmap.GetCanvas().SetFont(font);
+        return bitmap.GetCanvas().TextHeight(L"Aq");
+    };
+    const int captionLine = lineHeight(Button->GetFont());
+    const int descriptionLine = lineHeight(Button->GetFontDescription());
+    EXPECT_EQ(Button->GetTextHeight(), captionLine + 2 * descriptionLine);
+    TRect place(0, 0, 200, 60);
+    Button->DrawCaption(DT_SINGLELINE, place);
+    EXPECT_EQ(place, TRect(0, captionLine, 200, 60));
+    Button->DrawDescription(DT_SINGLELINE, place);
+    EXPECT_EQ(place, TRect(0, captionLine + 2 * descriptionLine, 200, 60));
 }
 
 TEST_F(MsgDlgButtonTest, AnyChangeOfTheDescriptionPaints) {
@@ -153,6 +162,28 @@ TEST_F(MsgDlgButtonTest, AnyChangeOfTheDescriptionPaints) {
     Button->SetDescription(other);
     EXPECT_EQ(Button->GetDescription().GetCount(), 1);
     EXPECT_TRUE(SamePixels(Shown(), Expected(White, Text, 0, 0)));
+}
+
+TEST_F(MsgDlgButtonTest, SettersPaintWhenTheyChangeSomething) {
+    TFont font;
+    font.SetColor(clGreen);
+    const std::pair<const char*, std::function<void()>> setters[] = {
+        {"Alignment", [&] { Button->SetAlignment(taCenter); }},
+        {"TextMarginHorizontal", [&] { Button->SetTextMarginHorizontal(9); }},
+        {"TextMarginVertical", [&] { Button->SetTextMarginVertical(9); }},
+        {"Spacing", [&] { Button->SetSpacing(9); }},
+        {"TextOffsetDownHorizontal", [&] { Button->SetTextOffsetDownHorizontal(9); }},
+        {"TextOffsetDownVertical", [&] { Button->SetTextOffsetDownVertical(9); }},
+        {"ColorHovered", [&] { Button->SetColorHovered(clRed); }},
+        {"ColorBorder", [&] { Button->SetColorBorder(clRed); }},
+        {"FontDescription", [&] { Button->SetFontDescription(font); }},
+    };
+    for (const auto& [name, set] : setters) {
+        Button->Paints = 0;
+        set();
+        PumpAll();
+        EXPECT_EQ(Button->Paints, 1) << name;
+    }
 }
 
 TEST_F(MsgDlgButtonTest, EachStateHasItsImage) {

@@ -74,6 +74,40 @@ TEST_F(RowDrag, TenPixelsAreNoDragAndElevenAre) {
     EXPECT_EQ(Clicked, L"") << "a drag is no click";
 }
 
+TEST_F(RowDrag, UpAndDownCountsAsFarAsToTheSides) {
+    Input.MoveTo(Surface(), 20, 2);
+    Input.Press();
+    Input.MoveTo(Surface(), 20, 12);
+    EXPECT_EQ(Carrier(), nullptr);
+    Input.MoveTo(Surface(), 20, 13);
+    EXPECT_NE(Carrier(), nullptr);
+    Input.Release();
+}
+
+TEST_F(RowDrag, TheItemThatThePointerWasOnIsTaken) {
+    Input.MoveTo(Surface(), At(0, 55), Middle);
+    Input.Press();
+    Input.MoveTo(Surface(), At(1, 10), Middle);
+    ASSERT_NE(Carrier(), nullptr);
+    EXPECT_EQ(Carrier()->GetItem(), Items()[0]);
+    Input.Release();
+}
+
+TEST_F(RowDrag, AReleaseEndsWhatThePressBegan) {
+    Input.ClickAt(Surface(), At(0, 20), Middle);
+    // The button went down elsewhere, and the pointer comes over the row.
+    ::SendMessageW(Surface(), WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(At(1, 20), Middle));
+    EXPECT_EQ(Carrier(), nullptr);
+}
+
+TEST_F(RowDrag, TheSurfaceGetsItsUsualCursorUnderWay) {
+    Lift(At(0, 20));
+    Strip->GetPaintBox().SetCursor(crHandPoint);
+    Input.MoveTo(Surface(), At(2, 20), Middle);
+    EXPECT_EQ(Strip->GetPaintBox().GetCursor(), crDefault);
+    Input.Release();
+}
+
 TEST_F(RowDrag, TheFirstGoesBehindTheSecond) {
     DragItem(0, At(1, 45));
     EXPECT_EQ(Captions(), L"BACD");

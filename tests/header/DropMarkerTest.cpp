@@ -115,6 +115,15 @@ TEST_F(PlainMarker, GoesWhenThePointerLeavesTheItems) {
     Input.Release();
 }
 
+TEST_F(PlainMarker, GoesWhenTheDragIsCancelled) {
+    Lift(20);
+    Input.MoveTo(Surface(), ItemWidth + 10, Middle);
+    ASSERT_FALSE(Shown() == Row());
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_TRUE(SamePixels(Shown(), Row()));
+    Input.Release();
+}
+
 TEST_F(PlainMarker, TheTargetFollowsFromTheSides) {
     Lift(ItemWidth + 20);  // the second
     struct {

@@ -117,6 +117,19 @@ TEST_F(HeaderChevronTest, ShowsTheButtonUnderTheMouse) {
     EXPECT_TRUE(SamePixels(shown(), Expected(L"DEFAULT", L"DISABLED", L"DEFAULT")));
 }
 
+TEST_F(HeaderChevronTest, InAnotherHeightItsBandsKeepToItsEdges) {
+    Header->SetHeight(27);
+    FChevron->SetHeight(27);
+    const Pixels shown = test::ReadClient(FChevron->GetHandle());
+    const Pixels top = Load(L"EXPLORERBARHEADERTOP"), bottom = Load(L"EXPLORERBARHEADERBOTTOM");
+    for (int y = 1; y < 26; ++y) {
+        const COLORREF expected = y < 10    ? top.At(0, y - 1)
+                                  : y >= 16 ? bottom.At(0, y - 16)
+                                            : static_cast<COLORREF>(probes::RowColor);
+        EXPECT_EQ(shown.At(50, y), expected) << y;
+    }
+}
+
 TEST_F(HeaderChevronTest, ScrollsByOneItem) {
     Click(Chevron::cbRight);
     Click(Chevron::cbRight);

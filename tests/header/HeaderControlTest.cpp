@@ -104,6 +104,24 @@ TEST_F(HeaderControlTest, PaintsNoItemAfterTheOneThatReachesTheMargin) {
     EXPECT_EQ(draws(4), 0);
 }
 
+TEST_F(HeaderControlTest, PaintsTheFirstItemEvenWithoutRoomBetweenTheMargins) {
+    AddBars({50, 50});
+    Header->SetHorzOffset(160);
+    EXPECT_LT(Header->GetClippedWidth(), 0);
+    EXPECT_TRUE(SamePixels(Shown().Part({0, 0, 248, 21}), [](int x, int) -> COLORREF {
+        return x >= 160 && x < 210 ? BarColor(0) : RowColor;
+    }));
+}
+
+TEST_F(HeaderControlTest, HidingClippedItemsShowsAtOnce) {
+    AddBars({100, 250});
+    Header->SetHideClippedItems(true);
+    EXPECT_TRUE(
+        SamePixels(test::ReadClient(Surface()).Part({0, 0, 248, 21}), Row({100}).Part({0, 0, 248, 21})));
+    Header->SetHideClippedItems(false);
+    EXPECT_EQ(test::ReadClient(Surface()).At(200, 5), static_cast<COLORREF>(BarColor(1)));
+}
+
 TEST_F(HeaderControlTest, HidesTheItemThatWouldBeCutOff) {
     AddBars({100, 100, 101});
     const auto* const last = static_cast<probes::TBarItem*>(Items()[2]);

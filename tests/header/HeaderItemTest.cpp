@@ -170,6 +170,15 @@ TEST_F(HeaderItemTest, AClickSelectsAndTellsThePlaceInTheItem) {
     EXPECT_EQ(Log.back(), "click B 3,7");
 }
 
+TEST_F(HeaderItemTest, AClickPaintsTheRowBeforeItTells) {
+    probes::TBarItem* const bar = AddBar(50);
+    const int before = bar->Draws;
+    int drawsAtClick = 0;
+    bar->OnClick = [&](Item*, TMouseButton, TShiftState, int, int) { drawsAtClick = bar->Draws; };
+    bar->Click(mbLeft, {}, 1, 1);
+    EXPECT_EQ(drawsAtClick, before + 1);
+}
+
 TEST_F(HeaderItemTest, MayBeFreedInEachOfItsEvents) {
     AddBars({30, 30, 30, 30});
     const auto free = [](Item* item) { delete item; };

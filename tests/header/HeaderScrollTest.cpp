@@ -47,6 +47,14 @@ TEST_F(HeaderScrollTest, KnowsWhetherItCanScroll) {
     EXPECT_FALSE(Header->CanScrollNext());
 }
 
+TEST_F(HeaderScrollTest, AChevronThatIsHiddenTakesNoRoom) {
+    while (Items().GetCount() > 6)
+        Items().Delete(6);
+    test::PumpAll();
+    EXPECT_FALSE(Header->GetChevronVisible());
+    EXPECT_FALSE(Header->CanScrollNext());
+}
+
 TEST_F(HeaderScrollTest, ScrollsToBothEnds) {
     Header->ScrollLast();
     EXPECT_EQ(First(), 4);

@@ -92,6 +92,13 @@ TEST_F(HeaderTabExtTest, IsOutOfItsRowButAliveWhileItCloses) {
     EXPECT_TRUE(SamePixels(Shown(), Pixels(300, 21, probes::RowColor)));
 }
 
+TEST_F(HeaderTabExtTest, TheRowIsPaintedAtOnceWhenItIsClosed) {
+    const probes::TBarItem* const beside = AddBar(20);
+    const int before = beside->Draws;
+    FTab->Close();
+    EXPECT_EQ(beside->Draws, before + 1);
+}
+
 TEST_F(HeaderTabExtTest, MayBeFreedWithItsControlWhileItCloses) {
     FTab->OnClose = [&](TQV7SkinHeaderItemCustom* item) {
         delete item;
@@ -147,6 +154,16 @@ TEST_F(HeaderTabExtTest, KeepsOfAStateWhatIsItsOwn) {
     EXPECT_EQ(Header->GetSelectedItem(), FTab);
     FTab->SetState({});
     EXPECT_TRUE(FTab->GetSelected());
+}
+
+TEST_F(HeaderTabExtTest, AStateThatChangesNothingPaintsTheRowToo) {
+    const probes::TBarItem* const beside = AddBar(20);
+    test::PumpAll();
+    const int before = beside->Draws;
+    FTab->SetState({});
+    EXPECT_EQ(beside->Draws, before);
+    test::PumpAll();
+    EXPECT_EQ(beside->Draws, before + 1);
 }
 
 TEST_F(HeaderTabExtTest, WantsTheHandOverItsButtons) {

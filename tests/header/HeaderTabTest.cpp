@@ -146,12 +146,12 @@ TEST_F(HeaderTabTest, IsCutAtTheEdgesOfTheCanvas) {
 }
 
 TEST_F(HeaderTabTest, DrawsItsPictureAndTheCaptionAfterIt) {
-    const auto picture = Picture(12, 10, clRed);
+    const auto picture = Picture(12, 9, clRed);
     Tab* const tab = AddTab(L"|");
     tab->SetImage(picture.get());
     const int width = WidthOf(*tab);
     const Pixels shown = DrawnItem(*tab, 0, width, 24, pf24bit);
-    for (int y = 0; y < 10; ++y)
+    for (int y = 0; y < 9; ++y)
         for (int x = 0; x < 12; ++x)
             EXPECT_EQ(shown.At(5 + x, 7 + y),
                       x == 0 && y == 0 ? static_cast<COLORREF>(TProbeStrip::StateColor(0)) : COLORREF{clRed});
@@ -317,6 +317,8 @@ TEST_F(HeaderTabTest, IsRenderedAnewOnRequest) {
     Header->Refresh();
     EXPECT_FALSE(tab->GetNeedsRender());
     EXPECT_TRUE(Header->Rendered.empty());
+    tab->SetSelected(false);
+    EXPECT_TRUE(tab->GetNeedsRender());
     tab->DropRenderings();
     EXPECT_EQ(tab->GetBackground(), nullptr);
     EXPECT_EQ(tab->GetRegion(), nullptr);

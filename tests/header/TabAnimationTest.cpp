@@ -35,6 +35,12 @@ TEST_F(TabAnimation, BeginsWithTheLoadingStep) {
     EXPECT_EQ(Strip->GetAnimationFrame(), 0);
 }
 
+TEST_F(TabAnimation, StandsStillAtDesignTime) {
+    Strip->SetDesigning(true);
+    Strip->Loaded();
+    EXPECT_FALSE(Strip->GetAnimationTimer().GetEnabled());
+}
+
 TEST_F(TabAnimation, RunsToAndFroOnTheTimer) {
     Strip->Loaded();
     std::vector<int> frames;

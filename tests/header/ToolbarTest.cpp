@@ -74,6 +74,15 @@ TEST_F(Toolbars, HoveredAndSelectedButtonsHaveTheirFrames) {
     EXPECT_TRUE(SamePixels(ShownAt(Margin + 40, 50), Button(L"HOVERED", 50)));
 }
 
+TEST_F(Toolbars, ATabAmongTheButtonsShowsTheMouseToo) {
+    AddBlank(40);
+    EXPECT_TRUE(SamePixels(ShownAt(Margin, 40), Bar(40)));
+    Input.MoveTo(Surface(), 20, 15);
+    EXPECT_TRUE(SamePixels(ShownAt(Margin, 40), Button(L"HOVERED", 40)));
+    Input.MoveTo(Surface(), 200, 15);
+    EXPECT_TRUE(SamePixels(ShownAt(Margin, 40), Bar(40)));
+}
+
 TEST_F(Toolbars, AClickSelectsNothing) {
     int clicks = 0;
     AddButton(L"Neu")->OnClick = [&](TQV7SkinHeaderItemCustom*, TMouseButton, TShiftState, int, int) {

@@ -132,9 +132,12 @@ TEST_F(ToolbuttonTest, IsRenderedAnewWhenItIsToBe) {
     button->SetNeedsRender();
     Header->Refresh();
     EXPECT_FALSE(button->GetNeedsRender());
+    button->SetSelected(false);
+    EXPECT_TRUE(button->GetNeedsRender());
+    Header->Refresh();
     Header->Look = 3;
     Header->Refresh();
-    EXPECT_EQ(Header->Rendered, (std::vector<int>{0, 0}));
+    EXPECT_EQ(Header->Rendered, (std::vector<int>{0, 0, 0}));
 }
 
 }  // namespace

@@ -216,6 +216,23 @@ TEST_F(LinkLabelTest, ADisabledPictureIsGrey) {
     EXPECT_EQ(Shown(*label).At(3, 3), RGB(10, 200, 10));
 }
 
+TEST_F(LinkLabelTest, AnotherPictureOfTheSameSizeShows) {
+    TQV7SkinLinkLabel* label = MakeLink(L"x");
+    const auto give = [&](TColor color) {
+        TBitmap bitmap(12, 12, pf24bit);
+        bitmap.GetCanvas().GetBrush().SetColor(color);
+        bitmap.GetCanvas().FillRect({0, 0, 12, 12});
+        label->GetPicture().SetBitmap(&bitmap);
+    };
+    for (const bool enabled : {true, false}) {
+        label->SetEnabled(enabled);
+        for (const TColor color : {RGB(200, 10, 10), RGB(20, 20, 20)}) {
+            give(color);
+            EXPECT_EQ(Shown(*label).At(5, 5), enabled ? color : Grey(color)) << enabled;
+        }
+    }
+}
+
 TEST_F(LinkLabelTest, PicturesOfOtherKindsDoNotShow) {
     TQV7SkinLinkLabel* label = MakeLink(L"x");
     const int width = label->GetWidth();
