@@ -1,6 +1,7 @@
 #include "gallery/GalleryPage.h"
 
 #include "gallery/pages/Pages.h"
+#include "platform/vcl/forms/Application.h"
 #include "platform/vcl/graphics/Color.h"
 
 namespace gallery {
@@ -18,6 +19,13 @@ void TGalleryPage::Dispatch(TMessage& message) {
         return;
     }
     TCustomControl::Dispatch(message);
+}
+
+void TGalleryPage::TakeShot(int shot, const std::function<void()>& take) {
+    Application().ProcessMessages();
+    PrepareShot(shot);
+    Application().ProcessMessages();
+    take();
 }
 
 std::span<const TPageInfo> GalleryPages() {

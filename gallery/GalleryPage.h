@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <span>
 
 #include "gallery/Namespace.h"
@@ -18,6 +19,9 @@ public:
     /// or the time brings about shows picture n of them after `PrepareShot(n)`.
     [[nodiscard]] virtual int ShotCount() const { return 1; }
     virtual void PrepareShot(int) {}
+    /// Calls `take` once while picture n can be seen. Pages override it whose pictures show what the user
+    /// holds open, such as menus; `take` also takes the windows that lie above the page's.
+    virtual void TakeShot(int shot, const std::function<void()>& take);
 
 protected:
     void Dispatch(TMessage& message) override;

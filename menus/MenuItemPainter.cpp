@@ -23,6 +23,13 @@ constexpr TColor DisabledTextColor = 0x00DEC5D8;
 
 /// The right edge of the gutter on the menu's canvas, and what captions stand further right for it.
 constexpr int GutterEdge = 26;
+
+/// Where the gutter of an item ends. Items of further columns and of a bar begin behind the edge: they have a
+/// gutter of their own, where a gutter up to the edge would lie on their neighbours.
+int GutterEdgeOf(const TRect& item) {
+    return item.Left < GutterEdge ? GutterEdge : item.Left + GutterEdge;
+}
+
 constexpr int GradientSteps = 256;
 constexpr UINT TextFlags = DT_EXTERNALLEADING;
 
@@ -134,8 +141,9 @@ void TQV7SkinMenuItemPainter::DrawItem(TMenuItem& Sender, TCanvas& ACanvas, cons
 }
 
 void TQV7SkinMenuItemPainter::DrawGutter(TCanvas& ACanvas, const TRect& R) const {
-    Fill(ACanvas, {R.Left, R.Top, GutterEdge, R.Bottom}, GutterColor);
-    Line(ACanvas, LineColor, {GutterEdge, R.Top}, {GutterEdge, R.Bottom});
+    const int edge = GutterEdgeOf(R);
+    Fill(ACanvas, {R.Left, R.Top, edge, R.Bottom}, GutterColor);
+    Line(ACanvas, LineColor, {edge, R.Top}, {edge, R.Bottom});
 }
 
 void TQV7SkinMenuItemPainter::DrawSeparator(TMenuItem& Item, TCanvas& ACanvas, const TRect& ARect, bool) {
@@ -213,7 +221,7 @@ void TQV7SkinMenuItemPainter::DrawTexts(TMenuItem& Item, TCanvas& ACanvas, const
 
 void TQV7SkinMenuItemPainter::DrawCheckMark(TMenuItem& Item, TCanvas& ACanvas, const TRect& ARect, bool) {
     if (!Item.GetChecked()) return;
-    TRect glyph = TRectHelper::CenterRectInRect({ARect.Left, ARect.Top, GutterEdge, ARect.Bottom},
+    TRect glyph = TRectHelper::CenterRectInRect({ARect.Left, ARect.Top, GutterEdgeOf(ARect), ARect.Bottom},
                                                 {0, 0, 12, 12}, {crtHorizontal, crtVertical});
     TPen& pen = ACanvas.GetPen();
     pen.SetStyle(psSolid);

@@ -2,14 +2,16 @@
 #include <memory>
 
 #include "gallery/Drawing.h"
-#include "gallery/ToolIcons.h"
+#include "gallery/MenuPictures.h"
+#include "gallery/MenuSamples.h"
 #include "gallery/pages/Pages.h"
 #include "menus/UnitQV7SkinActnCtrls.h"
 #include "menus/UnitQV7SkinMenus.h"
-#include "platform/vcl/graphics/ImageList.h"
-#include "platform/vcl/menus/MenuMaking.h"
+#include "platform/vcl/controls/Messages.h"
+#include "platform/vcl/forms/Application.h"
+#include "platform/vcl/forms/Form.h"
+#include "platform/vcl/stdctrls/Button.h"
 #include "platform/vcl/stdctrls/CheckBox.h"
-#include "platform/vcl/stdctrls/Memo.h"
 #include "skin/UnitQV7SkinColors.h"
 
 namespace gallery {
@@ -27,20 +29,20 @@ constexpr std::array Parts{TPart{L"Überschriften", mipSeparatorText},
                            TPart{L"Beschreibungen", mipDescription}, TPart{L"Tastenkürzel", mipShortCut},
                            TPart{L"Bildspalte", mipGutter}};
 
-/// A text editor whose main menu stands in a bar of actions and in a popup menu, and a menu drawn by both
-/// painters.
+/// The menu of a text editor as a classic bar, in the window as long as the page is shown, and as a bar of
+/// actions; a popup menu, and both painters with all their switches.
 class TMenusPage : public TGalleryPage {
 public:
-    explicit TMenusPage(TComponent* AOwner) : TGalleryPage(AOwner) {
+    explicit TMenusPage(TComponent* AOwner) : TGalleryPage(AOwner), FImages(CreateMenuImages()) {
         SetColor(GetQV7SkinColorBackground());
-        MakeImages();
         FEditor = new TMemo(this);
-        FEditor->SetBounds(Left, 74, Right - Left, 110);
-        FEditor->SetText(L"Die Menüleiste und das Kontextmenü wirken auf diesen Text.");
+        FEditor->SetBounds(Left, 74, Right - Left, 96);
+        FEditor->SetText(L"Beide Menüleisten wirken auf diesen Text.");
         FEditor->SetParent(this);
         FMenu = new TQV7SkinMainMenu(this);
         FMenu->SetImages(FImages.get());
-        FillEditorMenu(FMenu->GetItems());
+        FillEditorMenu(FMenu->GetItems(), *FEditor);
+        FMenu->ApplyCustomLayout();
         FManager = new TActionManager(this);
         FManager->SetImages(FImages.get());
         FBar = new TActionMainMenuBar(this);
@@ -50,105 +52,129 @@ public:
         FReplacement = std::make_unique<TMainMenuReplacement>(FMenu, FManager, FBar, Identifier);
         FPopup = new TQV7SkinPopupMenu(this);
         FPopup->SetImages(FImages.get());
-        FillSampleMenu(FPopup->GetItems());
-        FEditor->SetPopupMenu(FPopup);
+        // The heading at the top is a separator, too.
+        FPopup->SetAutoLineReduction(maManual);
+        FillSampleMenu(FPopup->GetItems(), {this, &TMenusPage::SampleClicked});
+        SetPopupMenu(FPopup);
         MakeSwitches();
     }
 
+    [[nodiscard]] int ShotCount() const override { return 5; }
+    /// The page, the popup menu by both painters, and the edit menu of both bars.
+    void TakeShot(int shot, const std::function<void()>& take) override {
+        static constexpr WORD toFourthLevel[] = {VK_END, VK_RIGHT, VK_RIGHT, VK_RIGHT};
+        static constexpr WORD toEditMenu[] = {VK_RIGHT, VK_DOWN, VK_DOWN, VK_DOWN};
+        FEditor->SelectAll();
+        FNice->SetChecked(shot != 2);
+        switch (shot) {
+            case 0:
+                return TGalleryPage::TakeShot(shot, take);
+            case 1:
+            case 2:
+                return WithOpenMenu([this] { OpenPopup(); }, toFourthLevel, take);
+            case 3:
+                return WithOpenMenu([this] { ::SendMessageW(FormWindow(), WM_SYSCOMMAND, SC_KEYMENU, 0); },
+                                    toEditMenu, take);
+            default:
+                FBar->EnterMenuLoop(1, true);
+                TGalleryPage::TakeShot(shot, take);
+                FBar->CloseMenu();
+        }
+    }
+
 protected:
+    void Dispatch(TMessage& message) override {
+        TGalleryPage::Dispatch(message);
+        if (message.Msg == CM_SHOWINGCHANGED && !IsInState(csDestroying)) ShowClassicMenu(GetShowing());
+    }
+
     void Paint() override {
         TCanvas& canvas = GetCanvas();
         Fill(canvas, GetClientRect(), GetColor());
-        DrawHeading(canvas, Left, 18, Right, L"Hauptmenü als Aktionsleiste, Kontextmenü im Text");
-        DrawHeading(canvas, Left, 196, Right, L"Was gezeichnet wird");
-        DrawHeading(canvas, Left, 262, Right, L"Ein Menü, von beiden Malern gezeichnet");
+        DrawHeading(canvas, Left, 18, Right,
+                    L"Ein Hauptmenü zweimal: klassisch oben im Fenster, und als Leiste");
+        DrawHeading(canvas, Left, 182, Right, L"Was gezeichnet wird");
+        DrawNote(canvas, {Left + 480, 242, Right, 258}, FChosen);
+        DrawHeading(canvas, Left, 274, Right, L"Das Kontextmenü, von beiden Malern gezeichnet");
         TQV7SkinMenuItemPainter plain;
         TQV7SkinMenuItemPainterNice nice;
-        for (TQV7SkinMenuItemPainter* painter : {&plain, static_cast<TQV7SkinMenuItemPainter*>(&nice)}) {
-            painter->SetDrawingParts(FParts);
-            painter->SetIncludeDescription(FParts.Contains(mipDescription));
-        }
+        for (TQV7SkinMenuItemPainter* painter : {&plain, static_cast<TQV7SkinMenuItemPainter*>(&nice)})
+            ApplyParts(*painter);
         DrawMenu(plain, Left, L"TQV7SkinMenuItemPainter");
         DrawMenu(nice, 390, L"TQV7SkinMenuItemPainterNice");
     }
 
 private:
-    void MakeImages() {
-        FImages = std::make_unique<TImageList>(nullptr);
-        for (const TToolIcon icon : {TToolIcon::New, TToolIcon::Open, TToolIcon::Save, TToolIcon::Print})
-            FImages->AddMasked(CreateToolIcon(icon).get(), clFuchsia);
+    [[nodiscard]] TForm* OwnForm() {
+        TParentForm* form = GetParentForm(this);
+        return form ? dynamic_cast<TForm*>(&form->FormControl()) : nullptr;
+    }
+    [[nodiscard]] HWND FormWindow() {
+        TForm* form = OwnForm();
+        return form ? form->GetHandle() : nullptr;
+    }
+    void ShowClassicMenu(bool shown) {
+        TForm* form = OwnForm();
+        if (!form || form->IsInState(csDestroying)) return;
+        if (shown)
+            form->SetMenu(FMenu);
+        else if (form->GetMenu() == FMenu)
+            form->SetMenu(nullptr);
     }
 
-    TMenuItem* Add(TMenuItem& parent, const wchar_t* caption, const wchar_t* hint = L"",
-                   TShortCut shortCut = 0, int image = -1) {
-        auto* item = new TMenuItem(nullptr);
-        item->SetCaption(caption);
-        item->SetHint(hint);
-        item->SetShortCut(shortCut);
-        item->SetImageIndex(image);
-        parent.Add(item);
-        return item;
-    }
-
-    void FillEditorMenu(TMenuItem& menu) {
-        TMenuItem* file = Add(menu, L"&Datei");
-        Add(*file, L"&Neu", L"Leert den Text", ShortCut('N', {ssCtrl}), 0)->OnClick = [this](TObject*) {
-            FEditor->GetLines().Clear();
+    TCheckBox* AddSwitch(int left, int top, const wchar_t* caption, bool checked,
+                         const std::function<void()>& changed) {
+        auto* box = new TCheckBox(this);
+        box->SetBounds(left, top, 150, 20);
+        box->SetCaption(caption);
+        box->SetChecked(checked);
+        box->SetParent(this);
+        box->OnClick = [this, changed](TObject*) {
+            changed();
+            UpdatePainter();
         };
-        Add(*file, L"-");
-        Add(*file, L"&Drucken", L"Steht nicht zur Verfügung", 0, 3)->SetEnabled(false);
-        TMenuItem* edit = Add(menu, L"&Bearbeiten");
-        Add(*edit, L"&Alles markieren", L"", ShortCut('A', {ssCtrl}))->OnClick = [this](TObject*) {
-            FEditor->SelectAll();
-        };
-        TMenuItem* readOnly = Add(*edit, L"&Schreibgeschützt", L"Der Text kann nur gelesen werden");
-        readOnly->SetAutoCheck(true);
-        readOnly->OnClick = [this](TObject* sender) {
-            FEditor->SetReadOnly(dynamic_cast<TMenuItem&>(*sender).GetChecked());
-        };
-        TMenuItem* align = Add(menu, L"&Ausrichtung");
-        for (const wchar_t* caption : {L"&Links", L"&Rechts"}) {
-            TMenuItem* item = Add(*align, caption);
-            item->SetRadioItem(true);
-            item->SetAutoCheck(true);
-            item->SetChecked(align->GetCount() == 1);
-        }
+        return box;
     }
-
-    void FillSampleMenu(TMenuItem& menu) {
-        Add(menu, L"-", L"Dokument");
-        Add(menu, L"&Neu", L"Ein leeres Dokument", ShortCut('N', {ssCtrl}), 0);
-        Add(menu, L"&Öffnen", L"Ein Dokument aus der Ablage#13#10oder von der Festplatte", 0, 1)
-            ->SetDefault(true);
-        Add(menu, L"&Speichern", L"", ShortCut('S', {ssCtrl}), 2)->SetEnabled(false);
-        Add(menu, L"-", L"Ansicht");
-        Add(menu, L"&Lineal")->SetChecked(true);
-        TMenuItem* whole = Add(menu, L"&Ganze Seite");
-        whole->SetRadioItem(true);
-        whole->SetChecked(true);
-        TMenuItem* level = &menu;
-        for (const wchar_t* caption : {L"&Erste Ebene", L"&Zweite Ebene", L"&Dritte Ebene", L"&Vierte Ebene"})
-            level = Add(*level, caption);
-    }
-
     void MakeSwitches() {
         int left = Left;
         for (const TPart& part : Parts) {
-            auto* box = new TCheckBox(this);
-            box->SetBounds(left, 228, 150, 20);
-            box->SetCaption(part.Caption);
-            box->SetChecked(true);
-            box->SetParent(this);
-            box->OnClick = [this, box, which = part.Part](TObject*) {
-                FParts.Put(which, box->GetChecked());
-                if (TQV7SkinMenuItemPainter* painter = QV7SkinMenuItemPainter()) {
-                    painter->SetDrawingParts(FParts);
-                    painter->SetIncludeDescription(FParts.Contains(mipDescription));
-                }
-                Invalidate();
-            };
+            AddSwitch(left, 212, part.Caption, true,
+                      [this, which = part.Part] { FParts.Put(which, !FParts.Contains(which)); });
             left += 160;
         }
+        FNice = AddSwitch(Left + 160, 238, L"Maler ...Nice", true, [] {});
+        FActive = AddSwitch(Left + 320, 238, L"Maler aktiv", true, [] {});
+        auto* open = new TButton(this);
+        open->SetBounds(Left, 236, 140, 25);
+        open->SetCaption(L"Kontextmenü &öffnen");
+        open->SetParent(this);
+        open->OnClick = [this](TObject*) { OpenPopup(); };
+    }
+
+    void ApplyParts(TQV7SkinMenuItemPainter& painter) const {
+        painter.SetDrawingParts(FParts);
+        painter.SetIncludeDescription(FParts.Contains(mipDescription));
+    }
+    /// Installs the painter that the switches ask for and lets the menus measure their items anew.
+    void UpdatePainter() {
+        TQV7SkinMenuItemPainter* painter =
+            FNice->GetChecked() ? new TQV7SkinMenuItemPainterNice() : new TQV7SkinMenuItemPainter();
+        painter->SetActive(FActive->GetChecked());
+        ApplyParts(*painter);
+        SetQV7SkinMenuItemPainter(painter);
+        FMenu->SetOwnerDraw(false);
+        if (painter->GetActive()) FMenu->ApplyCustomLayout();
+        FBar->RecreateControls();
+        Invalidate();
+    }
+
+    void OpenPopup() {
+        const TPoint place = ClientToScreen({Left, 264});
+        FPopup->Popup(place.X, place.Y);
+    }
+    void SampleClicked(TObject* sender) {
+        FChosen = L"Gewählt: " + StripHotkey(dynamic_cast<TMenuItem&>(*sender).GetCaption());
+        Invalidate();
     }
 
     /// Every item of the popup menu as a menu shows it, the third one highlighted.
@@ -168,9 +194,9 @@ private:
             top += height;
         }
         TCanvas& page = GetCanvas();
-        DrawNote(page, TRect::OfSize(left, 292, width, 16), name);
-        page.CopyRect(TRect::OfSize(left + 1, 313, width, top), picture, {0, 0, width, top});
-        Outline(page, TRect::OfSize(left, 312, width + 2, top + 2), GetQV7SkinColorColumnHeaderBG());
+        DrawNote(page, TRect::OfSize(left, 302, width, 16), name);
+        page.CopyRect(TRect::OfSize(left + 1, 323, width, top), picture, {0, 0, width, top});
+        Outline(page, TRect::OfSize(left, 322, width + 2, top + 2), GetQV7SkinColorColumnHeaderBG());
     }
 
     std::unique_ptr<TImageList> FImages;
@@ -179,8 +205,11 @@ private:
     TActionManager* FManager = nullptr;
     TActionMainMenuBar* FBar = nullptr;
     TQV7SkinPopupMenu* FPopup = nullptr;
+    TCheckBox* FNice = nullptr;
+    TCheckBox* FActive = nullptr;
     std::unique_ptr<TMainMenuReplacement> FReplacement;
     TQV7SkinMenuItemPainterParts FParts{mipSeparatorText, mipDescription, mipShortCut, mipGutter};
+    String FChosen;
 };
 
 }  // namespace

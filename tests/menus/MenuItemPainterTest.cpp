@@ -191,6 +191,25 @@ TEST_F(MenuItemPainterTest, AnItemHasAGutterAndItsCaption) {
         })));
 }
 
+TEST_F(MenuItemPainterTest, AnItemOfAFurtherColumnHasAGutterOfItsOwn) {
+    TMenuItem* item = AddItem(L"Caption");
+    item->SetChecked(true);
+    item->SetRadioItem(true);
+    const Pixels shown = Draw(*item, {40, 10, 150, 40});
+    EXPECT_EQ(shown.Part({40, 10, 66, 40}).Count(Gutter) + shown.Part({40, 10, 66, 40}).Count(clBlack),
+              26 * 30);
+    EXPECT_EQ(shown.Part({66, 10, 67, 40}).Count(GutterLine), 30);
+    EXPECT_EQ(shown.Part({67, 10, 70, 40}).Count(ItemGround), 3 * 30);
+    // The dot stands in it; the neighbour on the left stays as it was.
+    EXPECT_EQ(TRect(shown.Part({40, 10, 66, 40}).Bounds([](COLORREF c) { return c == clBlack; })),
+              TRect(9, 11, 17, 19));
+    EXPECT_EQ(shown.Part({0, 0, 40, Height}).Count(clWhite), 40 * Height);
+    TMenuItem* line = AddItem(L"-");
+    const Pixels separator = Draw(*line, {40, 10, 150, 20});
+    EXPECT_EQ(separator.Part({40, 10, 66, 20}).Count(Gutter), 26 * 10);
+    EXPECT_EQ(separator.Part({0, 0, 40, Height}).Count(clWhite), 40 * Height);
+}
+
 TEST_F(MenuItemPainterTest, WithoutGutterTheTextStartsFourPixelsFromTheLeft) {
     TMenuItem* item = AddItem(L"Caption");
     Painter->SetIncludeGutter(false);
