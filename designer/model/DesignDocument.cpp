@@ -6,7 +6,7 @@ namespace designer {
 
 TDesignDocument::TDesignDocument() {
     FForm.OnRemove = {this, &TDesignDocument::NoteRemoved};
-    FText = FormToText(FForm.Write());
+    NoteWritten();
 }
 
 TDesignDocument::~TDesignDocument() {
@@ -22,8 +22,13 @@ void TDesignDocument::Begin(const TFormDocument& document) {
     FSelection.Clear();
     FHistory.Clear();
     Rebuild(document);
-    FText = FormToText(FForm.Write());
+    NoteWritten();
     OnChange();
+}
+
+void TDesignDocument::NoteWritten() {
+    FWritten = FForm.Write();
+    FText = FormToText(FWritten);
 }
 
 void TDesignDocument::BeginNew() {
@@ -37,7 +42,7 @@ void TDesignDocument::Edit(const String& label, const std::function<void()>& cha
         change();
     } catch (...) {
         if (--FDepth == 0) {
-            Show(FText);
+            Show(FText, FForm.Write());
             OnChange();
         }
         throw;
@@ -46,10 +51,10 @@ void TDesignDocument::Edit(const String& label, const std::function<void()>& cha
 }
 
 void TDesignDocument::Commit(const String& label) {
-    std::string text = FormToText(FForm.Write());
-    TTextChange change = TTextChange::Between(FText, text);
+    const std::string before = std::move(FText);
+    NoteWritten();
+    TTextChange change = TTextChange::Between(before, FText);
     if (change.IsEmpty()) return;
-    FText = std::move(text);
     FHistory.Add(label, std::move(change));
     OnChange();
 }
@@ -59,13 +64,13 @@ void TDesignDocument::SetText(const String& label, const std::string& text) {
 }
 
 void TDesignDocument::SetDocument(const String& label, const TFormDocument& document) {
-    Edit(label, [&] { Show(FormToText(document)); });
+    Edit(label, [&] { Show(FormToText(document), FForm.Write()); });
 }
 
 void TDesignDocument::Undo() {
     if (!FHistory.CanUndo() || IsEditing()) return;
     std::string text = FHistory.Undone(FText);
-    Show(text);
+    Show(text, FWritten);
     FHistory.StepBack();
     FText = std::move(text);
     OnChange();
@@ -74,17 +79,23 @@ void TDesignDocument::Undo() {
 void TDesignDocument::Redo() {
     if (!FHistory.CanRedo() || IsEditing()) return;
     std::string text = FHistory.Redone(FText);
-    Show(text);
+    Show(text, FWritten);
     FHistory.StepForward();
     FText = std::move(text);
     OnChange();
 }
 
-void TDesignDocument::Show(const std::string& text) {
-    const TFormDocument present = FForm.Write();
+/// Brings the components, which stand as in `present`, to the text. Should they not, what is written
+/// afterwards tells.
+void TDesignDocument::Show(const std::string& text, const TFormDocument& present) {
     const TFormDocument wanted = ParseFormText(FromUtf8(text));
     if (present == wanted) return;
-    if (!FForm.Patch(present, wanted) || FormToText(FForm.Write()) != text) Rebuild(wanted);
+    if (FForm.Patch(present, wanted)) {
+        FWritten = FForm.Write();
+        if (FormToText(FWritten) == text) return;
+    }
+    Rebuild(wanted);
+    FWritten = FForm.Write();
 }
 
 void TDesignDocument::Rebuild(const TFormDocument& document) {

@@ -42,6 +42,7 @@ public:
     void SetText(const String& label, const std::string& text);
     /// The same with a document.
     void SetDocument(const String& label, const TFormDocument& document);
+    /// The form file as it would be written now.
     [[nodiscard]] TFormDocument Document() const { return FForm.Write(); }
     void Undo();
     void Redo();
@@ -53,15 +54,17 @@ public:
     TEvent<void()> OnRebuilt;
 
 private:
-    void Show(const std::string& text);
+    void Show(const std::string& text, const TFormDocument& present);
     void Rebuild(const TFormDocument& document);
+    void NoteWritten();
     void Commit(const String& label);
     void NoteRemoved(TComponent* component) { FSelection.Forget(component); }
 
     TDesignedForm FForm;
     TSelection FSelection;
     THistory FHistory;
-    std::string FText;
+    TFormDocument FWritten;  ///< The components, as of the last edit.
+    std::string FText;       ///< The same as text.
     int FDepth = 0;
 };
 

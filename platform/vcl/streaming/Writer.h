@@ -42,11 +42,13 @@ private:
     };
     /// A property and what it is compared with.
     struct TSubject {
-        String Name;
+        const String& Prefix;  ///< The names of the objects that it lies in, each with a point.
         const TPublishedProperty& Row;
         TPersistent& Object;
         const TPublishedProperty* AncestorRow;  ///< Null when there is none to compare with.
         TPersistent* Ancestor;
+        /// Most properties are left out, so that few names are wanted.
+        [[nodiscard]] String Name() const { return Prefix + Row.Name(); }
     };
 
     // Objects (Writer.cpp).

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <optional>
 #include <utility>
 
 namespace vcl {
@@ -130,7 +129,7 @@ void TWriter::WriteProperties(TProperties& properties, TPersistent& object, TPer
         if (ancestorMeta != &meta)
             ancestorRow = ancestorMeta ? ancestorMeta->FindProperty(row->Name()) : nullptr;
         if (ancestorRow && ancestorRow->Kind() != row->Kind()) ancestorRow = nullptr;
-        WriteProperty(properties, {prefix + row->Name(), *row, object, ancestorRow, ancestor});
+        WriteProperty(properties, {prefix, *row, object, ancestorRow, ancestor});
     }
     TDefinedProperties filer(properties, prefix, ancestor);
     object.DefineProperties(filer);
@@ -151,9 +150,9 @@ void TWriter::WriteProperty(TProperties& properties, const TSubject& subject) {
 
 void TWriter::WriteSimple(TProperties& properties, const TSubject& subject) const {
     const TPropertyValue value = subject.Row.Get(subject.Object);
-    const std::optional<TPropertyValue> usual =
-        subject.AncestorRow ? subject.AncestorRow->Get(*subject.Ancestor) : subject.Row.Default();
-    if (usual != value) properties.push_back({subject.Name, SimpleValue(subject.Row, value), {}});
+    const bool isUsual = subject.AncestorRow ? subject.AncestorRow->Get(*subject.Ancestor) == value
+                                             : subject.Row.Default() == value;
+    if (!isUsual) properties.push_back({subject.Name(), SimpleValue(subject.Row, value), {}});
 }
 
 void TWriter::WriteNested(TProperties& properties, const TSubject& subject) {
@@ -161,7 +160,7 @@ void TWriter::WriteNested(TProperties& properties, const TSubject& subject) {
     if (!nested) return;
     TPersistent* ancestor = subject.AncestorRow ? ObjectIn(*subject.AncestorRow, *subject.Ancestor) : nullptr;
     auto* collection = dynamic_cast<TCollection*>(nested);
-    WriteProperties(properties, *nested, ancestor, subject.Name + L'.');
+    WriteProperties(properties, *nested, ancestor, subject.Name() + L'.');
     if (!collection) return;
 
     TFormValue value = CollectionValue(*collection);
@@ -171,7 +170,7 @@ void TWriter::WriteNested(TProperties& properties, const TSubject& subject) {
         same = value == CollectionValue(*ancestorCollection);
         FScope = scope;
     }
-    if (!same) properties.push_back({subject.Name, std::move(value), {}});
+    if (!same) properties.push_back({subject.Name(), std::move(value), {}});
 }
 
 TFormValue TWriter::CollectionValue(TCollection& collection) {
@@ -191,9 +190,9 @@ void TWriter::WriteEvent(TProperties& properties, const TSubject& subject) const
     const bool samePath = (method.IsLocal && inherited.IsLocal) || SameText(method.Path, inherited.Path);
     if (samePath && SameText(method.Name, inherited.Name)) return;
     if (!method.Name.empty())
-        properties.push_back({subject.Name, {TFormIdent{method.Path + method.Name}, {}}, {}});
+        properties.push_back({subject.Name(), {TFormIdent{method.Path + method.Name}, {}}, {}});
     else if (!subject.Row.Event(subject.Object)->IsAssigned())
-        properties.push_back({subject.Name, {TFormNil(), {}}, {}});
+        properties.push_back({subject.Name(), {TFormNil(), {}}, {}});
 }
 
 void TWriter::WriteReference(TProperties& properties, const TSubject& subject) const {
@@ -203,9 +202,9 @@ void TWriter::WriteReference(TProperties& properties, const TSubject& subject) c
                                  : String();
     if (SameText(target, inherited)) return;
     if (!target.empty())
-        properties.push_back({subject.Name, {TFormIdent{target}, {}}, {}});
+        properties.push_back({subject.Name(), {TFormIdent{target}, {}}, {}});
     else if (!ObjectIn(subject.Row, subject.Object))
-        properties.push_back({subject.Name, {TFormNil(), {}}, {}});
+        properties.push_back({subject.Name(), {TFormNil(), {}}, {}});
 }
 
 TWriter::TMethodName TWriter::MethodName(TPersistent& object, const TPublishedProperty& row,
