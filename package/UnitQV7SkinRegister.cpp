@@ -18,6 +18,7 @@
 #include "inputs/UnitQV7SkinPanel.h"
 #include "inputs/UnitQV7SkinRadioButton.h"
 #include "inputs/UnitQV7SkinSpinEdit.h"
+#include "inputs/UnitQV7SkinTreeComboBox.h"
 #include "menus/UnitQV7SkinMenus.h"
 #include "platform/vcl/streaming/ClassRegistry.h"
 
@@ -30,7 +31,7 @@ std::span<const TPaletteEntry> PaletteEntries() {
         {L"TQV7SkinEdit", &TQV7SkinEdit::StaticClass},
         {L"TQV7SkinComboBox", &TQV7SkinComboBox::StaticClass},
         {L"TQV7SkinComboBoxCustomDropDown", &TQV7SkinComboBoxCustomDropDown::StaticClass},
-        {L"TQV7SkinTreeComboBox", nullptr},
+        {L"TQV7SkinTreeComboBox", &TQV7SkinTreeComboBox::StaticClass},
         {L"TQV7SkinExplorerBar", &TQV7SkinExplorerBar::StaticClass},
         {L"TQV7SkinSimpleTabControl", &TQV7SkinSimpleTabControl::StaticClass},
         {L"TQV7SkinTabControl", &TQV7SkinTabControl::StaticClass},
@@ -53,7 +54,7 @@ std::span<const TPaletteEntry> PaletteEntries() {
 
 extern "C" void Register() {
     for (const TPaletteEntry& entry : PaletteEntries())
-        if (entry.Class) RegisterComponents(L"QV7", {&entry.Class()});
+        RegisterComponents(L"QV7", {&entry.Class()});
 }
 
 }  // namespace qv7skin

@@ -11,7 +11,7 @@ namespace qv7skin {
 /// A place on the palette page of the package.
 struct TPaletteEntry {
     const wchar_t* ClassName;
-    const vcl::TMetaClass& (*Class)();  ///< Null as long as the package has no class of that name.
+    const vcl::TMetaClass& (*Class)();
 };
 
 /// The 22 places of the page, in their order.

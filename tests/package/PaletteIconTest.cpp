@@ -38,7 +38,6 @@ TEST_F(PaletteIconTest, IsFoundByTheNameOfTheClassInItsModule) {
     EXPECT_FALSE(LoadPaletteIcon(TButton::StaticClass(), standard));
     int found = 0;
     for (const TPaletteEntry& entry : PaletteEntries()) {
-        if (!entry.Class) continue;
         TBitmap icon;
         const bool own = LoadPaletteIcon(entry.Class(), icon);
         EXPECT_EQ(own, HasOwnIcon(entry.ClassName)) << ToUtf8(entry.ClassName);

@@ -1,0 +1,535 @@
+#include "platform/velmora/OwnAdvTreeComboBoxEx.h"
+
+#include <algorithm>
+
+#include "platform/vcl/controls/ParentForm.h"
+#include "platform/vcl/controls/PublishedRows.h"
+#include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/graphics/Arrows.h"
+#include "platform/vcl/graphics/Canvas.h"
+#include "platform/vcl/stdctrls/Edit.h"
+#include "platform/velmora/TreeComboItems.h"
+#include "platform/velmora/TreeDropDown.h"
+
+namespace velmora {
+namespace {
+
+/// Pixels between the edge and the text.
+constexpr int TextMargin = 3;
+constexpr int ArrowSize = 2;
+
+/// Sets a flag for the length of a scope.
+class TScopedFlag {
+public:
+    explicit TScopedFlag(bool& flag) : FFlag(flag), FBefore(std::exchange(flag, true)) {}
+    ~TScopedFlag() { FFlag = FBefore; }
+    TScopedFlag(const TScopedFlag&) = delete;
+    TScopedFlag& operator=(const TScopedFlag&) = delete;
+
+private:
+    bool& FFlag;
+    bool FBefore;
+};
+
+}  // namespace
+
+/// The editor inside: without editing it is a place to press.
+class TOwnAdvTreeComboBoxEx::TInnerEdit final : public TEdit {
+public:
+    explicit TInnerEdit(TOwnAdvTreeComboBoxEx& box) : TEdit(nullptr), FBox(box) {}
+
+protected:
+    void Dispatch(TMessage& message) override {
+        if (message.Msg == WM_MOUSEWHEEL) {
+            // An editor of the system keeps the wheel for itself, even with a single line.
+            message.Result = FBox.Perform(WM_MOUSEWHEEL, message.WParam, message.LParam);
+            return;
+        }
+        if (FBox.HasEditor()) return TEdit::Dispatch(message);
+        switch (message.Msg) {
+            case WM_LBUTTONDOWN:
+            case WM_LBUTTONDBLCLK:
+                return FBox.PressedByUser();
+            case WM_SETFOCUS: {
+                const TLifeGuard guard(*this);
+                TEdit::Dispatch(message);
+                if (guard.IsAlive() && HandleAllocated()) ::HideCaret(WindowHandle());
+                return;
+            }
+            default:
+                TEdit::Dispatch(message);
+        }
+    }
+
+private:
+    TOwnAdvTreeComboBoxEx& FBox;
+};
+
+const TMetaClass& TOwnAdvTreeComboBoxEx::StaticClass() {
+    using C = TOwnAdvTreeComboBoxEx;
+    static const TMetaClass meta =
+        DefineClass<C>(L"TOwnAdvTreeComboBoxEx", TCustomControl::StaticClass())
+            .With(PlacementRows)
+            .With(WindowColorRows)
+            .With(FontRows)
+            .With(StateRows)
+            .With(TabRows)
+            .Property(L"Style", &C::GetStyle, &C::SetStyle, csDropDown)
+            .Property(L"DropDownCount", &C::GetDropDownCount, &C::SetDropDownCount, 8)
+            .Property(L"Items", &C::GetItems, &C::SetItems)
+            .Property(L"Sorted", &C::GetSorted, &C::SetSorted, false)
+            .Property(L"ItemIndex", &C::GetItemIndex, &C::SetItemIndex, -1)
+            .Property(L"Text", &C::GetText, &C::SetText)
+            .With(MouseRows)
+            .With(KeyRows)
+            .Event(L"OnChange", &C::OnChange)
+            .Event(L"OnDropDown", &C::OnDropDown)
+            .Event(L"OnDropUp", &C::OnDropUp)
+            .Event(L"OnTreeExpanding", &C::OnTreeExpanding);
+    return meta;
+}
+
+TOwnAdvTreeComboBoxEx::TOwnAdvTreeComboBoxEx(TComponent* AOwner)
+    : TCustomControl(AOwner),
+      FEdit(new TInnerEdit(*this)),
+      FDropDown(new TTreeDropDown),
+      FItems(std::make_unique<TTreeComboItems>(FDropDown->GetTree().GetItems())) {
+    // The tree takes the mouse over while it is still pressed.
+    ControlStyle = ControlStyle + TControlStyle{csSetCaption, csOpaque, csFixedHeight};
+    ControlStyle = ControlStyle - TControlStyle{csCaptureMouse, csClickEvents};
+    SetBounds(0, 0, 145, 21);
+    SetColor(clWindow);
+    SetTabStop(true);
+    SetDoubleBuffered(true);
+    FDropDown->SetLineColor(FColors[DropDownLineColorIndex]);
+    ConnectEditor();
+    ConnectTree();
+    PlaceEditor();
+}
+
+TOwnAdvTreeComboBoxEx::~TOwnAdvTreeComboBoxEx() {
+    FQuiet = true;
+    TCustomTreeView& tree = FDropDown->GetTree();
+    tree.OnExpanding.Clear();
+    tree.OnChange.Clear();
+    tree.OnNodeChanged.Clear();
+    FItems.reset();
+    FDropDown->FreeWhenIdle();
+    delete FEdit;
+}
+
+void TOwnAdvTreeComboBoxEx::ConnectEditor() {
+    FEdit->SetBorderStyle(bsNone);
+    FEdit->SetAutoSize(false);
+    // The combo box is the stop of the Tab key and passes the focus on.
+    FEdit->SetTabStop(false);
+    FEdit->SetParentFont(true);
+    FEdit->SetParentColor(true);
+    FEdit->SetParent(this);
+    FEdit->OnChange = [this](TObject*) { EditorChanged(); };
+    FEdit->OnDblClick = [this](TObject*) { DblClick(); };
+    FEdit->OnKeyDown = [this](TObject*, WORD& key, TShiftState shift) { KeyDown(key, shift); };
+    FEdit->OnKeyPress = [this](TObject*, wchar_t& key) { KeyPress(key); };
+    FEdit->OnKeyUp = [this](TObject*, WORD& key, TShiftState shift) { KeyUp(key, shift); };
+}
+
+void TOwnAdvTreeComboBoxEx::ConnectTree() {
+    FDropDown->OnDone = [this](bool cancelled) { Done(cancelled); };
+    TCustomTreeView& tree = FDropDown->GetTree();
+    tree.OnExpanding = [this](TObject*, TTreeNode* node, bool& allowed) { allowed = TreeExpanding(*node); };
+    tree.OnChange = [this](TObject*, TTreeNode* node) { NodeSelected(node); };
+    tree.OnNodeChanged = [this](TObject*, TTreeNode* node) { NodeChanged(*node); };
+}
+
+TCustomTreeView& TOwnAdvTreeComboBoxEx::GetTree() const {
+    return FDropDown->GetTree();
+}
+
+TEdit& TOwnAdvTreeComboBoxEx::GetEdit() const {
+    return *FEdit;
+}
+
+TTreeNodes& TOwnAdvTreeComboBoxEx::GetTreeItems() const {
+    return FDropDown->GetTree().GetItems();
+}
+
+// --- properties
+
+TStrings& TOwnAdvTreeComboBoxEx::GetItems() const {
+    return *FItems;
+}
+
+void TOwnAdvTreeComboBoxEx::SetItems(const TStrings& value) {
+    FItems->Assign(&value);
+}
+
+int TOwnAdvTreeComboBoxEx::GetItemIndex() const {
+    const TTreeNode* node = GetSelected();
+    return node ? node->GetAbsoluteIndex() : -1;
+}
+
+void TOwnAdvTreeComboBoxEx::SetItemIndex(int value) {
+    TTreeNodes& nodes = GetTreeItems();
+    SetSelected(value >= 0 && value < nodes.GetCount() ? nodes.GetItem(value) : nullptr);
+}
+
+void TOwnAdvTreeComboBoxEx::SetStyle(TComboBoxStyle value) {
+    if (value == FStyle) return;
+    FStyle = value;
+    FEdit->SetReadOnly(!HasEditor());
+    FEdit->SetCursor(HasEditor() ? crDefault : crArrow);
+    if (const TTreeNode* node = GetSelected(); !HasEditor()) PutText(node ? node->GetText() : String());
+}
+
+TColor TOwnAdvTreeComboBoxEx::GetColors(int index) const {
+    if (index < 0 || index >= static_cast<int>(FColors.size()))
+        throw EListError(Format(L"List index out of bounds (%d)", index));
+    return FColors[static_cast<std::size_t>(index)];
+}
+
+void TOwnAdvTreeComboBoxEx::SetColors(int index, TColor value) {
+    if (value == GetColors(index)) return;
+    FColors[static_cast<std::size_t>(index)] = value;
+    FDropDown->SetLineColor(FColors[DropDownLineColorIndex]);
+    Invalidate();
+}
+
+void TOwnAdvTreeComboBoxEx::SetButtonWidth(int value) {
+    if (value == FButtonWidth) return;
+    FButtonWidth = value;
+    PlaceEditor();
+    Invalidate();
+}
+
+void TOwnAdvTreeComboBoxEx::SetEnabled(bool value) {
+    TCustomControl::SetEnabled(value);
+    FEdit->SetEnabled(value);
+    Invalidate();
+}
+
+// --- text and choice
+
+String TOwnAdvTreeComboBoxEx::GetTextBuf() const {
+    return FEdit->GetText();
+}
+
+/// Without an editor the text is always that of a node.
+void TOwnAdvTreeComboBoxEx::SetTextBuf(const String& value) {
+    if (HasEditor())
+        PutText(value);
+    else if (TTreeNode* node = FindText(value))
+        SetSelected(node);
+}
+
+void TOwnAdvTreeComboBoxEx::PutText(const String& text) {
+    const TScopedFlag quiet(FQuiet);
+    FEdit->SetText(text);
+    if (!HasEditor() && FEdit->Focused()) FEdit->SelectAll();
+}
+
+TTreeNode* TOwnAdvTreeComboBoxEx::FindText(StringView text) const {
+    for (TTreeNode* node = GetTreeItems().GetFirstNode(); node; node = node->GetNext())
+        if (CompareText(node->GetText(), text) == 0) return node;
+    return nullptr;
+}
+
+void TOwnAdvTreeComboBoxEx::SetNewText(const String& value) {
+    {
+        const TScopedFlag quiet(FQuiet);
+        SetSelected(FindText(value));
+    }
+    const TTreeNode* node = GetSelected();
+    PutText(HasEditor() || !node ? value : node->GetText());
+}
+
+void TOwnAdvTreeComboBoxEx::SelectAll() {
+    FEdit->SelectAll();
+}
+
+void TOwnAdvTreeComboBoxEx::EditorChanged() {
+    if (FQuiet) return;
+    {
+        const TScopedFlag quiet(FQuiet);
+        SetSelected(FindText(FEdit->GetText()));
+    }
+    Change();
+}
+
+/// Another node was selected: it is chosen, unless the user is still looking in the open tree.
+void TOwnAdvTreeComboBoxEx::NodeSelected(const TTreeNode* node) {
+    if (FQuiet || FDroppedDown) return;
+    if (node || !HasEditor()) PutText(node ? node->GetText() : String());
+}
+
+void TOwnAdvTreeComboBoxEx::NodeChanged(const TTreeNode& node) {
+    if (!FQuiet && !FDroppedDown && node.GetSelected()) PutText(node.GetText());
+}
+
+/// The user chose a node.
+void TOwnAdvTreeComboBoxEx::Choose(TTreeNode* node) {
+    if (!node || node == GetSelected()) return;
+    SetSelected(node);
+    if (FEdit->Focused()) FEdit->SelectAll();
+    const TLifeGuard guard(*this);
+    Click();
+    if (guard.IsAlive()) Change();
+}
+
+void TOwnAdvTreeComboBoxEx::Change() {
+    OnChange(this);
+}
+
+// --- opening and closing
+
+void TOwnAdvTreeComboBoxEx::SetDroppedDown(bool value) {
+    if (value == FDroppedDown) return;
+    if (value)
+        Open();
+    else
+        FDropDown->Finish(true);
+}
+
+void TOwnAdvTreeComboBoxEx::Open() {
+    if (IsInState(csDesigning) || !CanFocus()) return;
+    const TLifeGuard guard(*this);
+    DropDown();
+    if (!guard.IsAlive() || FDroppedDown) return;
+    FNodeBefore = GetSelected();
+    FNodeBeforeLives.reset();
+    if (FNodeBefore) FNodeBeforeLives.emplace(*FNodeBefore);
+    FDropDown->GetTree().SetFont(GetFont());
+    FDropDown->GetTree().SetColor(GetColor());
+    FDroppedDown = true;
+    Invalidate();
+    FDropDown->ShowAt(*this, FDropDownCount);
+}
+
+void TOwnAdvTreeComboBoxEx::Done(bool cancelled) {
+    TTreeNode* before = FNodeBeforeLives && FNodeBeforeLives->IsAlive() ? FNodeBefore : nullptr;
+    FNodeBeforeLives.reset();
+    FNodeBefore = nullptr;
+    if (cancelled) SetSelected(before);
+    FDroppedDown = false;
+    Invalidate();
+    TTreeNode* chosen = GetSelected();
+    const TLifeGuard guard(*this);
+    if (!cancelled && chosen) {
+        const bool changes = chosen != before || chosen->GetText() != FEdit->GetText();
+        PutText(chosen->GetText());
+        FEdit->SelectAll();
+        if (changes) Click();
+        if (guard.IsAlive() && changes) Change();
+    }
+    if (guard.IsAlive()) DropUp(cancelled);
+}
+
+void TOwnAdvTreeComboBoxEx::DropDown() {
+    OnDropDown(this);
+}
+
+void TOwnAdvTreeComboBoxEx::DropUp(bool cancelled) {
+    OnDropUp(this, cancelled);
+}
+
+bool TOwnAdvTreeComboBoxEx::TreeExpanding(TTreeNode& node) {
+    bool allowed = true;
+    OnTreeExpanding(this, &node, allowed);
+    return allowed;
+}
+
+/// A press on the button, or anywhere without an editor.
+void TOwnAdvTreeComboBoxEx::PressedByUser() {
+    if (std::exchange(FPressCloses, false)) return;
+    const TLifeGuard guard(*this);
+    if (!Focused() && CanFocus()) SetFocus();
+    if (guard.IsAlive()) SetDroppedDown(!FDroppedDown);
+}
+
+void TOwnAdvTreeComboBoxEx::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
+    const TLifeGuard guard(*this);
+    TCustomControl::MouseDown(button, shift, x, y);
+    if (guard.IsAlive() && button == mbLeft && (!HasEditor() || GetButtonRect().Contains({x, y})))
+        PressedByUser();
+}
+
+// --- keys and wheel
+
+/// The node so many ones that show after the chosen one, or the last one on the way there.
+TTreeNode* TOwnAdvTreeComboBoxEx::NodeAfter(int steps) const {
+    TTreeNode* node = GetSelected();
+    if (!node) return GetTreeItems().GetFirstNode();
+    for (; steps != 0; steps += steps > 0 ? -1 : 1) {
+        TTreeNode* next = steps > 0 ? node->GetNextVisible() : node->GetPrevVisible();
+        if (!next) break;
+        node = next;
+    }
+    return node;
+}
+
+TTreeNode* TOwnAdvTreeComboBoxEx::NodeForKey(WORD key) const {
+    const int all = GetTreeItems().GetCount();
+    const int page = std::max(FDropDownCount - 1, 1);
+    if (key == VK_UP) return NodeAfter(-1);
+    if (key == VK_DOWN) return NodeAfter(1);
+    if (HasEditor()) return nullptr;
+    switch (key) {
+        case VK_PRIOR:
+            return NodeAfter(-page);
+        case VK_NEXT:
+            return NodeAfter(page);
+        case VK_HOME:
+            return NodeAfter(-all);
+        case VK_END:
+            return NodeAfter(all);
+        default:
+            return nullptr;
+    }
+}
+
+/// The next node that shows and begins with the letter, round the end.
+TTreeNode* TOwnAdvTreeComboBoxEx::NodeForLetter(wchar_t letter) const {
+    TTreeNode* first = GetTreeItems().GetFirstNode();
+    TTreeNode* start = GetSelected();
+    const auto fits = [letter](const TTreeNode* node) {
+        return CompareText(StringView(node->GetText()).substr(0, 1), {&letter, 1}) == 0;
+    };
+    for (TTreeNode* node = start ? start->GetNextVisible() : first; node; node = node->GetNextVisible())
+        if (fits(node)) return node;
+    for (TTreeNode* node = first; node && node != start; node = node->GetNextVisible())
+        if (fits(node)) return node;
+    return nullptr;
+}
+
+void TOwnAdvTreeComboBoxEx::KeyDown(WORD& key, TShiftState shift) {
+    const TLifeGuard guard(*this);
+    TCustomControl::KeyDown(key, shift);
+    if (!guard.IsAlive()) return;
+    const bool alt = shift.Contains(ssAlt);
+    if (alt ? key == VK_DOWN || key == VK_UP : key == VK_F4) {
+        key = 0;
+        return SetDroppedDown(true);
+    }
+    if (alt || shift.Contains(ssCtrl) || shift.Contains(ssShift)) return;
+    TTreeNode* node = NodeForKey(key);
+    if (!node) return;
+    key = 0;
+    Choose(node);
+}
+
+void TOwnAdvTreeComboBoxEx::KeyPress(wchar_t& key) {
+    const TLifeGuard guard(*this);
+    TCustomControl::KeyPress(key);
+    if (!guard.IsAlive()) return;
+    const wchar_t pressed = key;
+    // The editor would beep at them.
+    if (!HasEditor() || pressed == VK_RETURN || pressed == VK_ESCAPE) key = 0;
+    if (!HasEditor() && pressed >= L' ') Choose(NodeForLetter(pressed));
+}
+
+bool TOwnAdvTreeComboBoxEx::DoMouseWheelDown(TShiftState shift, TPoint mousePos) {
+    const TLifeGuard guard(*this);
+    if (TCustomControl::DoMouseWheelDown(shift, mousePos) || !guard.IsAlive()) return true;
+    if (!Focused()) return false;
+    Choose(NodeAfter(1));
+    return true;
+}
+
+bool TOwnAdvTreeComboBoxEx::DoMouseWheelUp(TShiftState shift, TPoint mousePos) {
+    const TLifeGuard guard(*this);
+    if (TCustomControl::DoMouseWheelUp(shift, mousePos) || !guard.IsAlive()) return true;
+    if (!Focused()) return false;
+    Choose(NodeAfter(-1));
+    return true;
+}
+
+// --- focus
+
+void TOwnAdvTreeComboBoxEx::SetFocus() {
+    FEdit->SetFocus();
+}
+
+bool TOwnAdvTreeComboBoxEx::Focused() const {
+    return FEdit->Focused();
+}
+
+/// Shift+Tab in the editor leads to the control before this one, not to this one itself.
+bool TOwnAdvTreeComboBoxEx::TakesTabBack(const TMessage& message) {
+    const TShiftState shift = KeyboardShiftState();
+    TParentForm* form = GetParentForm(this);
+    if (message.CharCode() != VK_TAB || !shift.Contains(ssShift) || shift.Contains(ssCtrl) || !form)
+        return false;
+    form->FormControl().SelectNext(this, false, true);
+    return true;
+}
+
+void TOwnAdvTreeComboBoxEx::Dispatch(TMessage& message) {
+    const TLifeGuard guard(*this);
+    if (message.Msg == CM_CHILDKEY && TakesTabBack(message)) {
+        message.Result = 1;
+        return;
+    }
+    // A press while the tree shows closes it before it arrives.
+    if (message.Msg == WM_MOUSEACTIVATE) FPressCloses = FDroppedDown;
+    TCustomControl::Dispatch(message);
+    if (!guard.IsAlive()) return;
+    switch (message.Msg) {
+        case WM_SETFOCUS:
+            if (FEdit->CanFocus()) FEdit->SetFocus();
+            return;
+        case CM_FONTCHANGED:
+            return PlaceEditor();
+        case CM_COLORCHANGED:
+        case CM_ENABLEDCHANGED:
+            return Invalidate();
+        default:
+            return;
+    }
+}
+
+// --- look and place
+
+TRect TOwnAdvTreeComboBoxEx::GetButtonRect() const {
+    return {GetClientWidth() - FButtonWidth, 0, GetClientWidth(), GetClientHeight()};
+}
+
+/// In the middle of the height, up to the button.
+void TOwnAdvTreeComboBoxEx::PlaceEditor() {
+    const int size = GetFont().GetHeight();
+    const int line = size < 0 ? -size * 5 / 4 : size;
+    const int height = std::clamp(line, 1, std::max(GetHeight() - 2, 1));
+    FEdit->SetBounds(TextMargin, (GetHeight() - height) / 2,
+                     std::max(GetWidth() - TextMargin - FButtonWidth - 1, 0), height);
+}
+
+void TOwnAdvTreeComboBoxEx::Resize() {
+    PlaceEditor();
+    Invalidate();
+    TCustomControl::Resize();
+}
+
+void TOwnAdvTreeComboBoxEx::Paint() {
+    TCanvas& canvas = GetCanvas();
+    canvas.GetBrush().SetStyle(bsSolid);
+    canvas.GetBrush().SetColor(GetColor());
+    canvas.FillRect(GetClientRect());
+    canvas.GetBrush().SetColor(FColors[BorderColorIndex]);
+    canvas.FrameRect(GetClientRect());
+    PaintButton();
+}
+
+void TOwnAdvTreeComboBoxEx::PaintButton() {
+    TCanvas& canvas = GetCanvas();
+    const TRect rect = GetButtonRect();
+    canvas.GetBrush().SetStyle(bsSolid);
+    canvas.GetBrush().SetColor(FColors[FaceColorIndex]);
+    canvas.FillRect(rect);
+    canvas.GetBrush().SetColor(FColors[BorderColorIndex]);
+    canvas.FrameRect(rect);
+    canvas.GetPen().SetStyle(psSolid);
+    canvas.GetPen().SetWidth(1);
+    canvas.GetPen().SetColor(GetEnabled() ? FColors[ArrowColorIndex] : clGrayText);
+    const TPoint at{rect.Left + rect.Width() / 2 - ArrowSize, rect.Top + (rect.Height() - ArrowSize) / 2};
+    DrawArrow(canvas, FDroppedDown ? sdUp : sdDown, at, ArrowSize);
+}
+
+}  // namespace velmora
