@@ -20,8 +20,12 @@ public:
     /// Tells to which window the menu belongs (0: to none), so that changes can redraw its bar. A menu that
     /// is empty and gets items sends that window CM_MENUCHANGED.
     virtual void SetWindowHandle(HWND window) = 0;
-    /// Whether a program that merges menus merges this one into that of the main form.
+    /// Whether the menu of a form other than the main one is shown in the main form's bar.
     [[nodiscard]] virtual bool GetAutoMerge() const { return false; }
+    /// Shows the items of another menu beside its own; null ends it.
+    virtual void MergeMenu(TWindowMenu*) {}
+    /// The menu that is merged into this one; not owned.
+    [[nodiscard]] virtual TWindowMenu* GetMergedMenu() const { return nullptr; }
     /// Runs the item whose short cut the key message is; false when there is none.
     virtual bool IsShortCut(TMessage& message) = 0;
     /// Answers a menu message of the window (WM_COMMAND, WM_INITMENUPOPUP, WM_MEASUREITEM ...); false leaves

@@ -9,6 +9,7 @@
 #include "platform/vcl/forms/ApplicationServices.h"
 #include "platform/vcl/forms/ApplicationWindow.h"
 #include "platform/vcl/forms/CustomForm.h"
+#include "platform/vcl/forms/MenuMerging.h"
 #include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/forms/TaskWindows.h"
 #include "platform/vcl/graphics/Icon.h"
@@ -78,11 +79,13 @@ void TApplication::FormCreated(TCustomForm* form) {
 
 void TApplication::SetMainForm(TCustomForm* value) {
     if (value == FMainForm) return;
+    EndMergingMenus();
     if (FMainForm) FMainForm->RemoveFreeNotification(this);
     FMainForm = value;
     if (!value) return;
     value->FreeNotification(this);
     value->UpdateOwnerWindow();
+    ReviewMergedMenus();
 }
 
 void TApplication::ReleaseLater(TCustomForm* form) {

@@ -1,6 +1,7 @@
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/CustomForm.h"
+#include "platform/vcl/forms/MenuMerging.h"
 #include "platform/vcl/forms/Screen.h"
 
 // Activation of the window and the focus among its controls. `FActiveControl` is where the focus is or will
@@ -55,6 +56,8 @@ void TCustomForm::SetActive(bool value) {
     if (!value || ::IsIconic(WindowHandle())) return;
     const TLifeGuard guard(*this);
     if (!FActiveControl) FActiveControl = FindNextControl(nullptr, true, true, false);
+    MergeFormMenu(*this);
+    if (!guard.IsAlive()) return;
     SetWindowFocus();
     if (guard.IsAlive()) ActiveChanged();
 }

@@ -3,6 +3,7 @@
 #include "platform/vcl/controls/WindowMenu.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/CustomForm.h"
+#include "platform/vcl/forms/MenuMerging.h"
 #include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/graphics/Icon.h"
 
@@ -92,13 +93,22 @@ void TCustomForm::SetPopupParent(TCustomForm* value) {
 
 void TCustomForm::SetMenu(TWindowMenu* value) {
     if (value == FMenu) return;
+    TWindowMenu* guest = nullptr;
     if (FMenu) {
         FMenu->RemoveFreeNotification(this);
-        if (!FMenu->IsInState(csDestroying)) FMenu->SetWindowHandle(nullptr);
+        if (!FMenu->IsInState(csDestroying)) {
+            UnmergeFormMenu(FMenu);
+            guest = FMenu->GetMergedMenu();
+            FMenu->SetWindowHandle(nullptr);
+        }
     }
     FMenu = value;
     if (value) value->FreeNotification(this);
     ApplyWindowMenu();
+    if (Application().GetMainForm() != this || IsInState(csDestroying)) return;
+    // What was merged into the former menu goes with the bar.
+    if (value && guest && guest->GetAutoMerge() && guest != value) value->MergeMenu(guest);
+    ReviewMergedMenus();
 }
 
 // --- the window
@@ -137,7 +147,7 @@ DWORD TCustomForm::FrameExStyle() const {
 
 TRect TCustomForm::GetFrameInsets() const {
     RECT frame{};
-    const bool hasMenu = FMenu && !GetParent() && FMenu->GetMenuHandle();
+    const bool hasMenu = FMenu && !GetParent() && !MergesIntoMainForm(*this) && FMenu->GetMenuHandle();
     ::AdjustWindowRectEx(&frame, FrameStyle(), hasMenu, FrameExStyle());
     return {-frame.left, -frame.top, frame.right, frame.bottom};
 }
@@ -173,6 +183,7 @@ void TCustomForm::CreateWnd() {
 
 void TCustomForm::DestroyWindowHandle() {
     ReleaseOwnedForms();
+    UnmergeFormMenu(FMenu);
     if (FMenu && HandleAllocated()) {
         // The system would destroy the menu together with the window.
         ::SetMenu(WindowHandle(), nullptr);
@@ -184,9 +195,12 @@ void TCustomForm::DestroyWindowHandle() {
 
 void TCustomForm::ApplyWindowMenu() {
     if (!HandleAllocated() || GetParent() || FBorderStyle == bsDialog) return;
-    const HMENU menu = FMenu && !IsInState(csDesigning) ? FMenu->GetMenuHandle() : nullptr;
+    const bool merges = MergesIntoMainForm(*this);
+    if (!merges) UnmergeFormMenu(FMenu);
+    const HMENU menu = FMenu && !merges && !IsInState(csDesigning) ? FMenu->GetMenuHandle() : nullptr;
     if (::GetMenu(WindowHandle()) != menu) ::SetMenu(WindowHandle(), menu);
     if (FMenu) FMenu->SetWindowHandle(IsInState(csDesigning) ? nullptr : WindowHandle());
+    if (FActive) MergeFormMenu(*this);
 }
 
 void TCustomForm::ApplyAlphaBlend() {

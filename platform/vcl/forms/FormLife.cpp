@@ -1,6 +1,8 @@
+#include "platform/vcl/controls/WindowMenu.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/CustomForm.h"
+#include "platform/vcl/forms/MenuMerging.h"
 #include "platform/vcl/forms/Screen.h"
 
 // Showing, hiding, closing.
@@ -71,6 +73,8 @@ void TCustomForm::ShowWindowNow() {
     if (!guard.IsAlive()) return;
     if (!std::exchange(FPositioned, true)) ApplyPosition();
     FFormState.Exclude(fsShowing);
+    // A form is modal or not from one time to the next.
+    if (FMenu && FMenu->GetAutoMerge()) ApplyWindowMenu();
     ::ShowWindow(WindowHandle(), ShowCommand(FWindowState));
 }
 
@@ -84,6 +88,7 @@ void TCustomForm::HideWindowNow() {
     }
     if (!guard.IsAlive()) return;
     FFormState.Exclude(fsShowing);
+    UnmergeFormMenu(FMenu);
     // The end of a modal loop says itself where the activation goes.
     const bool isModal = FFormState.Contains(fsModal);
     const HWND next = !isModal && ::GetActiveWindow() == WindowHandle() ? NextActiveWindow() : nullptr;

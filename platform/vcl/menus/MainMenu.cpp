@@ -32,7 +32,15 @@ void TMainMenu::SetAutoMerge(bool value) {
 }
 
 void TMainMenu::Merge(TMainMenu* other) {
-    GetItems().MergeWith(other ? &other->GetItems() : nullptr);
+    TMenuItem* items = other ? &other->GetItems() : nullptr;
+    if (items != GetItems().GetMerged()) EndLoop();
+    GetItems().MergeWith(items);
+}
+
+TWindowMenu* TMainMenu::GetMergedMenu() const {
+    const TMenuItem* items = GetItems().GetMerged();
+    TMenu* menu = items ? items->GetParentMenu() : nullptr;
+    return menu ? dynamic_cast<TWindowMenu*>(&menu->Component()) : nullptr;
 }
 
 void TMainMenu::Unmerge(TMainMenu* other) {

@@ -13,14 +13,16 @@ public:
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
 
-    /// For programs that merge the menus of their forms into that of the main form: whether this one takes
-    /// part. The menus themselves do nothing by it.
+    /// Whether the menu of a form other than the main one is merged into the main form's while the form is in
+    /// use, instead of standing in a bar of its own. False for the main form's own menu.
     [[nodiscard]] bool GetAutoMerge() const override { return FAutoMerge; }
     void SetAutoMerge(bool value);
     /// Shows the items of another menu beside its own, by their `GroupIndex`: those of one number take the
     /// place of its own of that number. Null and `Unmerge` end it.
     void Merge(TMainMenu* other);
     void Unmerge(TMainMenu* other);
+    void MergeMenu(TWindowMenu* other) override { Merge(dynamic_cast<TMainMenu*>(other)); }
+    [[nodiscard]] TWindowMenu* GetMergedMenu() const override;
     /// The window in whose bar it stands; 0 when in none.
     [[nodiscard]] HWND GetWindowHandle() const { return FWindow; }
 

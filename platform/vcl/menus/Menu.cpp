@@ -69,10 +69,17 @@ void TMenu::SetOwnerDraw(bool value) {
 void TMenu::ItemChanged(TMenuItem& item, bool rebuild) {
     if (FComponent.IsInState(csDestroying) || FComponent.IsInState(csLoading)) return;
     const TLifeGuard guard(*this);
+    const bool isStale = item.FStale;
     for (TMenuItem* list : {&item, item.FParent}) {
         if (list && list->NeedsSyncNow()) list->SyncHandle();
     }
-    if (TMenuItem* holder = FItems->FMergedInto; holder && holder->NeedsSyncNow()) holder->SyncHandle();
+    if (TMenuItem* holder = FItems->FMergedInto) {
+        // What the own bar was told the other one was not.
+        item.FStale = isStale;
+        if (holder->NeedsSyncNow()) holder->SyncHandle();
+        if (holder->FMenu) holder->FMenu->DoChange(holder, rebuild);
+        if (!guard.IsAlive()) return;
+    }
     DoChange(&item, rebuild);
 }
 
