@@ -35,9 +35,34 @@ using TShowHintEvent = TEvent<void(String&, bool&, THintInfo&)>;
 /// An action that its own handlers left alone; true: it was used.
 using TActionEvent = TEvent<void(TBasicAction*, bool&)>;
 
+/// The events of the program, which the application has, and each `TApplicationEvents` that hears them
+/// beside it.
+class TApplicationEventSet {
+public:
+    TExceptionEvent OnException;
+    TIdleEvent OnIdle;
+    TMessageEvent OnMessage;
+    TNotifyEvent OnActivate;
+    TNotifyEvent OnDeactivate;
+    TNotifyEvent OnMinimize;
+    TNotifyEvent OnRestore;
+    TNotifyEvent OnHint;
+    TNotifyEvent OnModalBegin;
+    TNotifyEvent OnModalEnd;
+    TNotifyEvent OnSettingChange;
+    TShowHintEvent OnShowHint;
+    TShortCutEvent OnShortCut;
+    TActionEvent OnActionExecute;
+    TActionEvent OnActionUpdate;
+
+protected:
+    TApplicationEventSet() = default;
+    ~TApplicationEventSet() = default;
+};
+
 /// The program: its message loop, its main form, what happens to errors, hints, idle time. Obtained with
 /// `Application()`; it belongs to the thread that asked first, as all controls do.
-class TApplication : public TComponent, public TGuarded {
+class TApplication : public TComponent, public TApplicationEventSet, public TGuarded {
 public:
     ~TApplication() override;
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
@@ -139,22 +164,6 @@ public:
     bool ExecuteAction(TBasicAction* action);
     bool UpdateAction(TBasicAction* action);
 
-    TExceptionEvent OnException;
-    TIdleEvent OnIdle;
-    TMessageEvent OnMessage;
-    TNotifyEvent OnActivate;
-    TNotifyEvent OnDeactivate;
-    TNotifyEvent OnMinimize;
-    TNotifyEvent OnRestore;
-    TNotifyEvent OnHint;
-    TNotifyEvent OnModalBegin;
-    TNotifyEvent OnModalEnd;
-    TNotifyEvent OnSettingChange;
-    TShowHintEvent OnShowHint;
-    TShortCutEvent OnShortCut;
-    TActionEvent OnActionExecute;
-    TActionEvent OnActionUpdate;
-
 protected:
     void Notification(TComponent* component, TOperation operation) override;
 
@@ -181,8 +190,7 @@ private:
     // handler. Those that answer return whether one of them handled it.
     template <class Raise>
     bool RaiseAll(Raise raise);
-    template <class Event>
-    void Notify(Event TApplicationEvents::*theirs, Event TApplication::*own);
+    void Notify(TNotifyEvent TApplicationEventSet::*event);
     void RaiseActive(bool active);
     void RaiseMinimized(bool minimized);
     void RaiseModal(bool begins);

@@ -48,44 +48,40 @@ bool TApplication::RaiseAll(Raise raise) {
     return raise(*this);
 }
 
-template <class Event>
-void TApplication::Notify(Event TApplicationEvents::*theirs, Event TApplication::*own) {
-    RaiseAll([&](auto& hearer) {
-        if constexpr (std::is_same_v<decltype(hearer), TApplication&>)
-            (hearer.*own)(&hearer);
-        else
-            (hearer.*theirs)(&hearer);
+void TApplication::Notify(TNotifyEvent TApplicationEventSet::*event) {
+    RaiseAll([event](auto& hearer) {
+        (hearer.*event)(&hearer);
         return false;
     });
 }
 
 void TApplication::RaiseActive(bool active) {
     if (active)
-        Notify(&TApplicationEvents::OnActivate, &TApplication::OnActivate);
+        Notify(&TApplicationEventSet::OnActivate);
     else
-        Notify(&TApplicationEvents::OnDeactivate, &TApplication::OnDeactivate);
+        Notify(&TApplicationEventSet::OnDeactivate);
 }
 
 void TApplication::RaiseMinimized(bool minimized) {
     if (minimized)
-        Notify(&TApplicationEvents::OnMinimize, &TApplication::OnMinimize);
+        Notify(&TApplicationEventSet::OnMinimize);
     else
-        Notify(&TApplicationEvents::OnRestore, &TApplication::OnRestore);
+        Notify(&TApplicationEventSet::OnRestore);
 }
 
 void TApplication::RaiseModal(bool begins) {
     if (begins)
-        Notify(&TApplicationEvents::OnModalBegin, &TApplication::OnModalBegin);
+        Notify(&TApplicationEventSet::OnModalBegin);
     else
-        Notify(&TApplicationEvents::OnModalEnd, &TApplication::OnModalEnd);
+        Notify(&TApplicationEventSet::OnModalEnd);
 }
 
 void TApplication::RaiseHint() {
-    Notify(&TApplicationEvents::OnHint, &TApplication::OnHint);
+    Notify(&TApplicationEventSet::OnHint);
 }
 
 void TApplication::RaiseSettingChange() {
-    Notify(&TApplicationEvents::OnSettingChange, &TApplication::OnSettingChange);
+    Notify(&TApplicationEventSet::OnSettingChange);
 }
 
 bool TApplication::RaiseException(TObject* sender, const std::exception& error) {

@@ -7,28 +7,12 @@ namespace vcl {
 /// Hears the application's events beside others: any number of these objects may stand on forms. They are
 /// called before the event of the application itself, the youngest first. Events that answer stop at the
 /// first that handled them.
-class TApplicationEvents : public TComponent {
+class TApplicationEvents : public TComponent, public TApplicationEventSet {
 public:
     explicit TApplicationEvents(TComponent* AOwner);
     ~TApplicationEvents() override;
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
-
-    TExceptionEvent OnException;
-    TIdleEvent OnIdle;
-    TMessageEvent OnMessage;
-    TNotifyEvent OnActivate;
-    TNotifyEvent OnDeactivate;
-    TNotifyEvent OnMinimize;
-    TNotifyEvent OnRestore;
-    TNotifyEvent OnHint;
-    TNotifyEvent OnModalBegin;
-    TNotifyEvent OnModalEnd;
-    TNotifyEvent OnSettingChange;
-    TShowHintEvent OnShowHint;
-    TShortCutEvent OnShortCut;
-    TActionEvent OnActionExecute;
-    TActionEvent OnActionUpdate;
 };
 
 }  // namespace vcl
