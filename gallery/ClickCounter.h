@@ -1,19 +1,16 @@
 #pragma once
 
 #include "gallery/Namespace.h"
-#include "platform/vcl/controls/Control.h"
 #include "platform/vcl/stdctrls/Label.h"
 
 namespace gallery {
 
-/// A label that counts the clicks on controls, and says which one was the last.
+/// A label that counts the clicks on controls and says which one was the last.
 class TClickCounter : public TLabel {
 public:
     explicit TClickCounter(TComponent* AOwner);
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
     [[nodiscard]] static const TMetaClass& StaticClass();
-    /// Counts every click on the control from now on.
-    void CountClicksOf(TControl& control) { control.OnClick = {this, &TClickCounter::Count}; }
     /// Counts a click on `sender`, which is a control.
     void Count(TObject* sender);
 

@@ -5,22 +5,20 @@
 #include "gallery/Drawing.h"
 #include "gallery/pages/Pages.h"
 #include "indicators/UnitQV7SkinLinkLabel.h"
-#include "platform/vcl/graphics/Font.h"
+#include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/Picture.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormResources.h"
 
 namespace gallery {
 namespace {
-
-constexpr int Left = 24;
-constexpr int Right = 736;
-constexpr TColor Magenta = 0x00FF00FF;
 
 /// A sheet of paper with a folded corner, 16 x 16 pixels on magenta.
 void DrawSheet(TBitmap& bitmap) {
     bitmap.SetPixelFormat(pf24bit);
     bitmap.SetSize(16, 16);
     TCanvas& canvas = bitmap.GetCanvas();
-    Fill(canvas, {0, 0, 16, 16}, Magenta);
+    Fill(canvas, {0, 0, 16, 16}, clFuchsia);
     canvas.GetPen().SetColor(0x00606060);
     canvas.GetBrush().SetColor(clWhite);
     canvas.Polygon(std::array{TPoint{2, 0}, TPoint{9, 0}, TPoint{13, 4}, TPoint{13, 15}, TPoint{2, 15}});
@@ -30,26 +28,50 @@ void DrawSheet(TBitmap& bitmap) {
         Fill(canvas, {4, y, 12, y + 1}, 0x00D78112);
 }
 
+/// A link label with that picture.
+class TSheetLinkLabel : public TQV7SkinLinkLabel {
+public:
+    explicit TSheetLinkLabel(TComponent* AOwner) : TQV7SkinLinkLabel(AOwner) {
+        TBitmap sheet;
+        DrawSheet(sheet);
+        GetPicture().SetBitmap(&sheet);
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        static const TMetaClass meta =
+            DefineClass<TSheetLinkLabel>(L"TSheetLinkLabel", TQV7SkinLinkLabel::StaticClass());
+        return meta;
+    }
+};
+
 /// Link labels with and without picture, in every way of shortening them, and disabled.
 class TLinkLabelsPage : public TGalleryPage {
 public:
     explicit TLinkLabelsPage(TComponent* AOwner) : TGalleryPage(AOwner) {
-        FCounter = new TClickCounter(this);
-        FCounter->SetBounds(Left, 556, 500, 16);
-        FCounter->SetParent(this);
-        AddStates();
-        AddPictures();
-        AddEllipses();
+        RegisterClasses({&TClickCounter::StaticClass(), &TQV7SkinLinkLabel::StaticClass(),
+                         &TSheetLinkLabel::StaticClass()});
+        InitInheritedComponent(*this, TGalleryPage::StaticClass());
+        TBitmap icon;
+        DrawMessageIcon(icon, msgiInformation, clWhite);
+        FNews->GetPicture().SetBitmap(&icon);
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        static const TMetaClass meta =
+            DefineClass<TLinkLabelsPage>(L"TLinkLabelsPage", TGalleryPage::StaticClass())
+                .Component<&TLinkLabelsPage::FCounter>(L"Counter")
+                .Component<&TLinkLabelsPage::FNews>(L"News")
+                .Method<&TLinkLabelsPage::LinkClick>(L"LinkClick");
+        return meta;
     }
 
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), clWhite);
-        DrawHeading(canvas, Left, 16, Right, L"Zustände");
-        DrawHeading(canvas, Left, 150, Right, L"Mit Bild");
-        DrawHeading(canvas, Left, 304, Right, L"Zu lange Texte");
-        DrawHeading(canvas, Left, 516, Right, L"Zum Anfassen: jeder Link zählt mit");
+        DrawPartHeading(16, L"Zustände");
+        DrawPartHeading(150, L"Mit Bild");
+        DrawPartHeading(304, L"Zu lange Texte");
+        DrawPartHeading(516, L"Zum Anfassen: jeder Link zählt mit");
         Note(50, L"Normal");
         Note(76, L"Unter der Maus");
         Note(102, L"Gesperrt");
@@ -71,63 +93,13 @@ private:
                                             L"etPathEllips: Punkte im Pfad"};
 
     void Note(int top, const wchar_t* text) {
-        DrawNote(GetCanvas(), TRect::OfSize(Left, top, FirstLink - Left - 8, 16), text);
+        DrawNote(GetCanvas(), TRect::OfSize(Margin, top, FirstLink - Margin - 8, 16), text);
     }
 
-    TQV7SkinLinkLabel* Add(int left, int top, const wchar_t* caption) {
-        auto* label = new TQV7SkinLinkLabel(this);
-        label->SetCaption(caption);
-        label->SetLeft(left);
-        label->SetTop(top);
-        label->SetParent(this);
-        FCounter->CountClicksOf(*label);
-        return label;
-    }
-    static void GivePicture(TQV7SkinLinkLabel& label) {
-        TBitmap sheet;
-        DrawSheet(sheet);
-        label.GetPicture().SetBitmap(&sheet);
-    }
+    void LinkClick(TObject* sender) { FCounter->Count(sender); }
 
-    void AddStates() {
-        Add(FirstLink, 50, L"Weitere Einstellungen");
-        Add(FirstLink, 76, L"Weitere Einstellungen")->GetFont().SetStyle({fsUnderline});
-        Add(FirstLink, 102, L"Weitere Einstellungen")->SetEnabled(false);
-    }
-
-    void AddPictures() {
-        GivePicture(*Add(FirstLink, 184, L"Bericht öffnen"));
-        for (const int top : {212, 240}) {
-            TQV7SkinLinkLabel* label = Add(FirstLink, top, L"Bericht öffnen");
-            GivePicture(*label);
-            label->SetTransparentColor(Magenta);
-            label->SetEnabled(top != 240);
-        }
-        TQV7SkinLinkLabel* large = Add(FirstLink, 264, L"Was ist neu?\nDie Änderungen dieser Fassung");
-        TBitmap icon;
-        DrawMessageIcon(icon, msgiInformation, clWhite);
-        large->GetPicture().SetBitmap(&icon);
-    }
-
-    void AddEllipses() {
-        int top = 342;
-        for (const TEllipsType type : {etNone, etEndEllips, etPathEllips}) {
-            for (const bool hasPicture : {false, true}) {
-                TQV7SkinLinkLabel* label =
-                    Add(FirstLink, top, L"C:\\Benutzer\\Anna\\Dokumente\\Angebote\\2024\\Angebot.txt");
-                label->SetAutoSize(false);
-                label->SetBounds(FirstLink, top, 220, 16);
-                label->SetEllipsType(type);
-                if (hasPicture) {
-                    GivePicture(*label);
-                    label->SetTransparentColor(Magenta);
-                }
-                top += hasPicture ? 32 : 24;
-            }
-        }
-    }
-
-    TClickCounter* FCounter;
+    TClickCounter* FCounter = nullptr;
+    TQV7SkinLinkLabel* FNews = nullptr;
 };
 
 }  // namespace
