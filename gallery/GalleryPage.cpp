@@ -1,5 +1,6 @@
 #include "gallery/GalleryPage.h"
 
+#include "gallery/Drawing.h"
 #include "gallery/pages/Pages.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/graphics/Color.h"
@@ -12,13 +13,8 @@ TGalleryPage::TGalleryPage(TComponent* AOwner) : TCustomControl(AOwner) {
     SetDoubleBuffered(true);
 }
 
-void TGalleryPage::Dispatch(TMessage& message) {
-    // The buffer is filled before painting; erasing on the screen would flicker.
-    if (message.Msg == WM_ERASEBKGND && !message.WParam) {
-        message.Result = 1;
-        return;
-    }
-    TCustomControl::Dispatch(message);
+int TGalleryPage::DrawPartHeading(int top, StringView text) {
+    return DrawHeading(GetCanvas(), Margin, top, GetClientWidth() - Margin, text);
 }
 
 void TGalleryPage::TakeShot(int shot, const std::function<void()>& take) {

@@ -24,7 +24,11 @@ public:
     virtual void TakeShot(int shot, const std::function<void()>& take);
 
 protected:
-    void Dispatch(TMessage& message) override;
+    /// Pixels that headings and most contents keep off the page's left and right edge.
+    static constexpr int Margin = 24;
+    /// The heading of a part of the page, from margin to margin. Returns the vertical position where the
+    /// part's contents start.
+    int DrawPartHeading(int top, StringView text);
 };
 
 /// What the navigation shows of a page, and how to make it.

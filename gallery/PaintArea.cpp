@@ -18,12 +18,4 @@ TPaintArea::TPaintArea(TComponent* AOwner) : TCustomControl(AOwner) {
     SetDoubleBuffered(true);
 }
 
-void TPaintArea::Dispatch(TMessage& message) {
-    if (message.Msg == WM_ERASEBKGND && !message.WParam) {
-        message.Result = 1;
-        return;
-    }
-    TCustomControl::Dispatch(message);
-}
-
 }  // namespace gallery

@@ -16,7 +16,6 @@ public:
     TEvent<void(TCanvas&, const TRect&)> OnPaint;
 
 protected:
-    void Dispatch(TMessage& message) override;
     void Paint() override { OnPaint(GetCanvas(), GetClientRect()); }
 };
 

@@ -11,9 +11,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
-constexpr int Right = 736;
-
 /// Caption headers in both bands, with the skin's font and the host's, at several heights, and over lists.
 class TCaptionHeadersPage : public TGalleryPage {
 public:
@@ -31,12 +28,10 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawHeading(canvas, Left, 18, Right, L"Grau und dunkel, mit der Schrift der Skin und mit eigener");
-        DrawHeading(canvas, Left, 122, Right, L"Höhen");
-        DrawHeading(canvas, Left, 300, Right, L"Zu lang, und weiter eingerückt");
-        DrawHeading(canvas, Left, 382, Right, L"Über einer Liste");
+        DrawPartHeading(18, L"Grau und dunkel, mit der Schrift der Skin und mit eigener");
+        DrawPartHeading(122, L"Höhen");
+        DrawPartHeading(300, L"Zu lang, und weiter eingerückt");
+        DrawPartHeading(382, L"Über einer Liste");
     }
 };
 

@@ -40,9 +40,6 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, clWhite);
         DrawTitles();
         if (FFamily < static_cast<int>(std::size(Families)))
             DrawBitmaps(Families[FFamily]);

@@ -30,15 +30,12 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, clWhite);
-        DrawHeading(canvas, Margin, 22, client.Right - Margin, L"Liste (Kopf anklicken)");
+        DrawPartHeading(22, L"Liste (Kopf anklicken)");
         for (std::size_t i = 0; i < Columns.size(); ++i)
             DrawColumnHeader(i);
         for (std::size_t i = 0; i < FRows.size(); ++i)
             DrawFileRow(i);
-        int top = DrawHeading(canvas, Margin, 286, client.Right - Margin, L"Kopfband in mehreren Höhen");
+        int top = DrawPartHeading(286, L"Kopfband in mehreren Höhen");
         for (const int height : BandHeights)
             top = DrawBand(top, height) + 12;
     }
@@ -51,7 +48,6 @@ protected:
     }
 
 private:
-    static constexpr int Margin = 24;
     static constexpr int ListTop = 51;
     static constexpr int HeaderHeight = 25;
     static constexpr int RowHeight = 22;

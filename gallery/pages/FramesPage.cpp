@@ -45,7 +45,6 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
         const int width = FWidthSlider->GetPosition();
         const int height = FHeightSlider->GetPosition();
         DrawNote(canvas, TRect::OfSize(28, 16, 300, 16), L"Breite: " + IntToStr(width) + L" Pixel");

@@ -11,8 +11,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
-constexpr int Right = 736;
 constexpr int FirstColumn = 134;
 constexpr int ColumnWidth = 124;
 constexpr std::array Percentages{0, 1, 42, 99, 100};
@@ -55,17 +53,16 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), clWhite);
-        DrawHeading(canvas, Left, 16, Right, L"Jede Art bei 0, 1, 42, 99 und 100 Prozent");
+        DrawPartHeading(16, L"Jede Art bei 0, 1, 42, 99 und 100 Prozent");
         for (std::size_t i = 0; i < Percentages.size(); ++i)
             DrawNote(canvas, TRect::OfSize(ColumnLeft(static_cast<int>(i)), 50, 104, 16),
                      IntToStr(Percentages[i]) + L" %", DT_CENTER);
         for (const TKindRow& row : KindRows)
             DrawNote(canvas,
-                     TRect::OfSize(Left, row.Top + row.Size.Height / 2 - 7, FirstColumn - Left - 6, 16),
+                     TRect::OfSize(Margin, row.Top + row.Size.Height / 2 - 7, FirstColumn - Margin - 6, 16),
                      row.Name);
-        DrawHeading(canvas, Left, RunningTop - 34, Right, L"In Bewegung");
-        int left = Left;
+        DrawPartHeading(RunningTop - 34, L"In Bewegung");
+        int left = Margin;
         for (const wchar_t* note : {L"Wert und Ende", L"eigener Text", L"ohne Text", L"ohne Rand"}) {
             DrawNote(canvas, TRect::OfSize(left, RunningTop + 94, 168, 16), note, DT_CENTER);
             left += 181;
@@ -90,18 +87,18 @@ private:
     }
 
     void AddRunning() {
-        TQV7SkinGauge* value = Add(gkHorizontalBar, TRect::OfSize(Left, RunningTop + 30, 168, 26));
+        TQV7SkinGauge* value = Add(gkHorizontalBar, TRect::OfSize(Margin, RunningTop + 30, 168, 26));
         value->SetTextKind(gtkProgress);
         value->SetMaxValue(250);
-        FFile = Add(gkHorizontalBar, TRect::OfSize(Left + 181, RunningTop + 30, 168, 26));
+        FFile = Add(gkHorizontalBar, TRect::OfSize(Margin + 181, RunningTop + 30, 168, 26));
         FFile->SetTextKind(gtkText);
         FFile->SetForeColor(0x00800000);
-        TQV7SkinGauge* pie = Add(gkPie, TRect::OfSize(Left + 2 * 181 + 42, RunningTop, 84, 84));
+        TQV7SkinGauge* pie = Add(gkPie, TRect::OfSize(Margin + 2 * 181 + 42, RunningTop, 84, 84));
         pie->SetShowText(false);
         pie->SetForeColor(GetQV7SkinColorLinkText());
         pie->SetBackColor(GetQV7SkinColorBackground());
         pie->SetBorderStyle(bsNone);
-        TQV7SkinGauge* needle = Add(gkNeedle, TRect::OfSize(Left + 3 * 181 + 20, RunningTop + 8, 128, 66));
+        TQV7SkinGauge* needle = Add(gkNeedle, TRect::OfSize(Margin + 3 * 181 + 20, RunningTop + 8, 128, 66));
         needle->SetBorderStyle(bsNone);
         needle->SetShowText(false);
         needle->SetBackColor(GetQV7SkinColorBackground());

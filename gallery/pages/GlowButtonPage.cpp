@@ -43,16 +43,14 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawTitle(GetCanvas(), 24, 22, L"Alle Zustände");
+        DrawTitle(GetCanvas(), Margin, 22, L"Alle Zustände");
         int top = 50;
         for (const TSize size : Sizes) {
             DrawGroups(top, size);
             top += size.Height + 40;
         }
         DrawMagnifiedGroups(390);
-        DrawTitle(GetCanvas(), 24, 506, L"Zum Anfassen");
+        DrawTitle(GetCanvas(), Margin, 506, L"Zum Anfassen");
     }
 
 private:
@@ -73,7 +71,7 @@ private:
 
     void DrawGroups(int top, TSize size) {
         for (int group = 0; group < GlowGroupCount; ++group) {
-            const int left = 24 + group * 143;
+            const int left = Margin + group * 143;
             TBitmap face;
             DrawFace(face, size, group, L"Speichern");
             GetCanvas().Draw(left, top, &face);
@@ -86,7 +84,7 @@ private:
         for (int group = 0; group < GlowGroupCount; ++group) {
             TBitmap face;
             DrawFace(face, {32, 25}, group, L"");
-            DrawMagnified(GetCanvas(), 24 + group * 143, top, face, 4, clNone);
+            DrawMagnified(GetCanvas(), Margin + group * 143, top, face, 4, clNone);
         }
     }
 

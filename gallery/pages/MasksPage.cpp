@@ -60,7 +60,6 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
         // The variant for white surroundings and the container stand on white.
         for (const int index : {1, 4})
             Fill(canvas, Place(index).Outer, clWhite);

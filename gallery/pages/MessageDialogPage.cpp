@@ -13,7 +13,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
 constexpr int CardTop = 50;
 constexpr int CaptionHeight = 26;
 
@@ -73,11 +72,10 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawTitle(GetCanvas(), Left, 20, L"So fragt ein Programm");
-        DrawTitle(GetCanvas(), 500, 20, L"Zum Anfassen");
-        DrawTitle(GetCanvas(), Left, FStatesTop - 26, L"Alle Zustände");
-        DrawTitle(GetCanvas(), Left, FAlignTop - 26, L"Ausrichtung");
+        DrawTitle(canvas, Margin, 20, L"So fragt ein Programm");
+        DrawTitle(canvas, 500, 20, L"Zum Anfassen");
+        DrawTitle(canvas, Margin, FStatesTop - 26, L"Alle Zustände");
+        DrawTitle(canvas, Margin, FAlignTop - 26, L"Ausrichtung");
         DrawCardFrame();
         for (std::size_t i = 0; i < StateNames.size(); ++i)
             DrawNote(canvas,
@@ -89,7 +87,7 @@ protected:
 private:
     static constexpr std::array StateNames{L"Normal", L"Unter der Maus", L"Gedrückt", L"Ein", L"Gesperrt"};
 
-    static int CellLeft(int column) { return Left + column * 240; }
+    static int CellLeft(int column) { return Margin + column * 240; }
 
     /// The window around the dialog that stands on the page.
     void DrawCardFrame() {
@@ -128,7 +126,7 @@ private:
         FCard->GetChoice(0).SetDown(true);
         FCard->Arrange();
         FCard->SetParent(this);
-        FCard->SetBounds(Left + 1, CardTop + CaptionHeight - 4, FCard->GetWidth(), FCard->GetHeight());
+        FCard->SetBounds(Margin + 1, CardTop + CaptionHeight - 4, FCard->GetWidth(), FCard->GetHeight());
         FCard->SetVisible(true);
         FStatesTop = FCard->GetTop() + FCard->GetHeight() + 50;
         FAlignTop = FStatesTop + 200;

@@ -37,15 +37,13 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, clWhite);
-        DrawHeading(canvas, 24, 22, client.Right - 24, L"Verformung: Breite 1, Höhe t, Deckkraft t²");
+        DrawPartHeading(22, L"Verformung: Breite 1, Höhe t, Deckkraft t²");
         for (std::size_t i = 0; i < FSteps.size(); ++i) {
             const TRect box = FSteps[i]->GetBoundsRect();
             DrawNote(canvas, {box.Left, 50, box.Right, 66}, Format(L"t = %.1f", Steps[i]));
         }
-        DrawHeading(canvas, 24, 262, client.Right - 24, L"Am Regler");
-        DrawNote(canvas, {470, 350, client.Right - 24, 366}, Format(L"t = %.2f", Factor()));
+        DrawPartHeading(262, L"Am Regler");
+        DrawNote(canvas, {470, 350, GetClientWidth() - Margin, 366}, Format(L"t = %.2f", Factor()));
     }
     void ShowSteps() {
         for (std::size_t i = 0; i < FSteps.size(); ++i)

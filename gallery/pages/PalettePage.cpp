@@ -38,17 +38,13 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, clWhite);
-        int top = DrawHeading(canvas, Margin, 22, client.Right - Margin, L"Allgemein");
+        int top = DrawPartHeading(22, L"Allgemein");
         top = DrawEntries(GeneralColors, top);
-        top = DrawHeading(canvas, Margin, top + 14, client.Right - Margin, L"Für einzelne Teile");
+        top = DrawPartHeading(top + 14, L"Für einzelne Teile");
         DrawEntries(PartColors, top);
     }
 
 private:
-    static constexpr int Margin = 24;
     static constexpr int CellWidth = 236;
     static constexpr int CellHeight = 72;
 

@@ -68,10 +68,7 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, clWhite);
-        const int top =
-            DrawHeading(canvas, Margin, RowsTop - 29, client.Right - Margin, L"Bitmap und Region");
+        const int top = DrawPartHeading(RowsTop - 29, L"Bitmap und Region");
         const wchar_t* rows[] = {L"Bitmap", L"Region", L"Region, umgekehrt"};
         for (int row = 0; row < 3; ++row)
             for (int column = 0; column < 3; ++column) {
@@ -85,7 +82,6 @@ protected:
     }
 
 private:
-    static constexpr int Margin = 24;
     static constexpr int RowsTop = 51;
     static constexpr int RowHeight = 156;
 

@@ -65,17 +65,14 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, GetColor());
-        DrawTitle(GetCanvas(), 24, 22, L"Alle Zustände");
+        DrawTitle(GetCanvas(), Margin, 22, L"Alle Zustände");
         int top = 50;
         for (const TSize size : Sizes) {
             DrawStates(top, size);
             top += size.Height + 40;
         }
         DrawMagnifiedStates(390);
-        DrawTitle(GetCanvas(), 24, 506, L"Zum Anfassen");
+        DrawTitle(GetCanvas(), Margin, 506, L"Zum Anfassen");
     }
 
 private:
@@ -87,7 +84,7 @@ private:
         const int columns =
             size.Width > 110 ? 4 : perRow;  // the pictures of the last two states are the pressed one
         for (int state = 0; state < columns; ++state) {
-            const int left = 24 + state * (size.Width > 110 ? 172 : 119);
+            const int left = Margin + state * (size.Width > 110 ? 172 : 119);
             button.DrawState(GetCanvas(), left, top, static_cast<TButtonExState>(state));
             DrawNote(GetCanvas(), TRect::OfSize(left, top + size.Height + 3, 115, 16),
                      StateNames[static_cast<std::size_t>(state)]);
@@ -105,7 +102,7 @@ private:
             TBitmap frame(40, 25, pf24bit);
             Fill(frame.GetCanvas(), {0, 0, 40, 25}, GetColor());
             button.DrawState(frame.GetCanvas(), 0, 0, static_cast<TButtonExState>(state));
-            DrawMagnified(GetCanvas(), 24 + state * 172, top, frame, factor, clNone);
+            DrawMagnified(GetCanvas(), Margin + state * 172, top, frame, factor, clNone);
         }
     }
 

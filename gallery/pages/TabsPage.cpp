@@ -19,9 +19,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
-constexpr int Right = 736;
-
 struct TPose {
     const wchar_t* Name;
     THeaderItemTabExtStates State;
@@ -84,11 +81,9 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawHeading(canvas, Left, 18, Right, L"Öffnen, schließen, sperren, ziehen – Strg+Tab wechselt");
-        DrawHeading(canvas, Left, 300, Right, L"Was nicht passt, wird geblättert; das Menü nennt alle");
-        DrawHeading(canvas, Left, 392, Right, L"Alle Zustände in drei Höhen");
+        DrawPartHeading(18, L"Öffnen, schließen, sperren, ziehen – Strg+Tab wechselt");
+        DrawPartHeading(300, L"Was nicht passt, wird geblättert; das Menü nennt alle");
+        DrawPartHeading(392, L"Alle Zustände in drei Höhen");
         DrawPoses();
     }
 
@@ -126,7 +121,7 @@ private:
     void DrawPoses() {
         int top = 424;
         for (const int height : {21, 27, 34}) {
-            int left = Left;
+            int left = Margin;
             for (const TPose& pose : Poses) {
                 TBitmap tab;
                 DrawTabPicture(tab, {bckgrndStandard, pose.State, height, L"Reiter"});
@@ -135,7 +130,7 @@ private:
             }
             top += height + 8;
         }
-        int left = Left;
+        int left = Margin;
         for (const TPose& pose : Poses) {
             TBitmap tab;
             DrawTabPicture(tab, {bckgrndStandard, pose.State, 21, L"R"});

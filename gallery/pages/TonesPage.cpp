@@ -15,9 +15,6 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        const TRect client = GetClientRect();
-        Fill(canvas, client, clWhite);
         int top = 22;
         top =
             DrawRow(top, L"Aufgehellt (DimBitmap)", [](TBitmap& b, int percent) { DimBitmap(&b, percent); });
@@ -28,14 +25,13 @@ protected:
     }
 
 private:
-    static constexpr int Margin = 24;
     static constexpr int PictureWidth = 130;
     static constexpr int PictureHeight = 110;
 
     template <class Change>
     int DrawRow(int top, const wchar_t* title, Change change) {
         TCanvas& canvas = GetCanvas();
-        top = DrawHeading(canvas, Margin, top, GetClientWidth() - Margin, title);
+        top = DrawPartHeading(top, title);
         int left = Margin;
         for (const int percent : Strengths) {
             TBitmap picture;

@@ -19,9 +19,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
-constexpr int Right = 736;
-
 struct TTool {
     const wchar_t* Caption;
     TToolIcon Icon;
@@ -74,12 +71,10 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawHeading(canvas, Left, 18, Right, L"Bilder und Beschriftungen");
-        DrawHeading(canvas, Left, 110, Right, L"Bilder allein, eines gewählt");
-        DrawHeading(canvas, Left, 202, Right, L"Was nicht passt, steht im Menü rechts");
-        DrawHeading(canvas, Left, 294, Right, L"Zustände");
+        DrawPartHeading(18, L"Bilder und Beschriftungen");
+        DrawPartHeading(110, L"Bilder allein, eines gewählt");
+        DrawPartHeading(202, L"Was nicht passt, steht im Menü rechts");
+        DrawPartHeading(294, L"Zustände");
     }
 
 private:

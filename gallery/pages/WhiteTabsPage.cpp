@@ -12,9 +12,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
-constexpr int Right = 736;
-
 struct TPose {
     const wchar_t* Name;
     THeaderItemTabExtStates State;
@@ -49,10 +46,8 @@ public:
 
 protected:
     void Paint() override {
-        TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawHeading(canvas, Left, 18, Right, L"Weiße Reiter über weißem Inhalt");
-        DrawHeading(canvas, Left, 262, Right, L"Alle Zustände");
+        DrawPartHeading(18, L"Weiße Reiter über weißem Inhalt");
+        DrawPartHeading(262, L"Alle Zustände");
         int top = 296;
         for (const int height : {21, 27}) {
             DrawRow(top, height);
@@ -63,7 +58,7 @@ protected:
 
 private:
     void DrawRow(int top, int height) {
-        int left = Left;
+        int left = Margin;
         for (const TPose& pose : Poses) {
             TBitmap tab;
             DrawTabPicture(tab, {bckgrndWhite, pose.State, height, L"Reiter"});
@@ -73,7 +68,7 @@ private:
     }
 
     void DrawMagnifiedRow(int top) {
-        int left = Left;
+        int left = Margin;
         for (const TPose& pose : Poses) {
             TBitmap tab;
             DrawTabPicture(tab, {bckgrndWhite, pose.State, 21, L""});
