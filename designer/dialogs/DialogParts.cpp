@@ -1,14 +1,16 @@
 #include "designer/dialogs/DialogParts.h"
 
+#include <array>
 #include <utility>
 
 #include "buttons/UnitQV7SkinButton.h"
+#include "buttons/UnitQV7SkinMessageDialog.h"
 #include "platform/vcl/stdctrls/ScrollBox.h"
 #include "skin/UnitQV7SkinColors.h"
 
 namespace designer {
 
-void PrepareDialog(TForm& form, const wchar_t* caption, TSize size, bool isSizeable) {
+void PrepareDialog(TForm& form, const String& caption, TSize size, bool isSizeable) {
     form.SetCaption(caption);
     form.SetBorderStyle(isSizeable ? bsSizeable : bsDialog);
     form.SetBorderIcons({biSystemMenu});
@@ -42,6 +44,12 @@ void AddOkAndCancel(TForm& form) {
     const int left = form.GetClientWidth() - DialogMargin - DialogButtonWidth;
     AddClosingButton(form, {left - 8 - DialogButtonWidth, top}, L"OK", mrOk);
     AddClosingButton(form, {left, top}, L"Abbrechen", mrCancel);
+}
+
+void ShowErrorMessage(const String& message) {
+    const std::array choices{
+        TQV7SkinMessageChoice{.Caption = L"&Schließen", .Result = mrOk, .Default = true, .Cancel = true}};
+    QV7SkinMessageDialog(L"QV7 Designer", message, msgiError, choices);
 }
 
 TScrollBox& AddScrollField(TWinControl& parent, const TRect& place) {

@@ -115,9 +115,17 @@ void TRowList::DrawRow(int index) {
     font.SetColor(isLight       ? GetQV7SkinColorCaption()
                   : row.IsFaint ? static_cast<TColor>(clGrayText)
                                 : GetQV7SkinColorWindowText());
+    constexpr UINT format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     TRect text{TextLeft(index), rect.Top, rect.Right - Margin, rect.Bottom};
-    canvas.TextRect(text, row.Text, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+    if (!row.IsLine) canvas.TextRect(text, row.Text, format);
+    if (!row.Note.empty()) {
+        if (!isLight) font.SetColor(static_cast<TColor>(clGrayText));
+        canvas.TextRect(text, row.Note, format | DT_RIGHT);
+    }
     canvas.GetBrush().SetStyle(bsSolid);
+    if (!row.IsLine) return;
+    canvas.GetBrush().SetColor(font.GetColor());
+    canvas.FillRect({text.Left, (rect.Top + rect.Bottom) / 2, text.Right, (rect.Top + rect.Bottom) / 2 + 1});
 }
 
 /// Shows between which rows the dragged one would come.

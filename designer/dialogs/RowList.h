@@ -11,9 +11,11 @@ class TValueEdit;
 
 /// A line of a list that a dialog shows.
 struct TListRow {
-    String Text;
+    String Text = {};
     int Depth = 0;         ///< How far it is moved in, as in a tree.
+    String Note = {};      ///< Drawn grey at the right edge.
     bool IsFaint = false;  ///< Drawn grey.
+    bool IsLine = false;   ///< A line is drawn in place of the text.
 };
 
 /// A list of rows, one of them chosen: by mouse, arrow keys, Home and End. Where its owner wants it, rows can

@@ -4,7 +4,9 @@
 
 #include <array>
 
-#include "buttons/UnitQV7SkinButton.h"
+#include "designer/dialogs/DialogParts.h"
+#include "designer/dialogs/ItemsDialog.h"
+#include "platform/vcl/core/Collection.h"
 #include "platform/vcl/core/StringList.h"
 #include "platform/vcl/forms/Form.h"
 #include "platform/vcl/graphics/Font.h"
@@ -14,8 +16,6 @@
 
 namespace designer {
 namespace {
-
-constexpr wchar_t AllPictures[] = L"*.bmp;*.png;*.jpg;*.jpeg;*.ico";
 
 TPersistent* HeldBy(const TPropertyLine& line, const TPersistent& holder) {
     return line.Row->Kind() == TPropertyKind::Nested ? std::get<TPersistent*>(line.Row->Get(holder))
@@ -65,14 +65,33 @@ void EditColor(TDesignDocument& document, const TPropertyLine& line, TValueDialo
     });
 }
 
-void AddDialogButton(TForm& form, int left, const wchar_t* caption, TModalResult result) {
-    auto* button = new TQV7SkinButton(&form);
-    button->SetCaption(caption);
-    button->SetBounds(left, form.GetClientHeight() - 35, 90, 25);
-    button->SetAnchors({akRight, akBottom});
-    button->SetModalResult(result);
-    button->SetCancel(result == mrCancel);
-    button->SetParent(&form);
+void EditCollection(TDesignDocument& document, const TPropertyLine& line, TValueDialogs& dialogs) {
+    if (const auto* component = dynamic_cast<const TComponent*>(line.Holders.front()))
+        EditItems(*MakeCollectionTree(document, component->GetName(), line.Row->Name()), dialogs);
+}
+
+/// Asks for files. Of several the system names the folder first, then each file in it.
+std::vector<String> AskPictureFiles(const String& extensions, DWORD flags) {
+    String filter = L"Bilder (" + extensions + L")";
+    filter.push_back(L'\0');
+    filter += extensions;
+    filter.push_back(L'\0');
+    std::array<wchar_t, 32'768> names{};
+    OPENFILENAMEW dialog{};
+    dialog.lStructSize = sizeof dialog;
+    dialog.hwndOwner = ::GetActiveWindow();
+    dialog.lpstrFilter = filter.c_str();
+    dialog.lpstrFile = names.data();
+    dialog.nMaxFile = static_cast<DWORD>(names.size());
+    dialog.Flags = flags | OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_EXPLORER;
+    if (!::GetOpenFileNameW(&dialog)) return {};
+    std::vector<String> files;
+    const wchar_t* name = names.data();
+    const String first = name;
+    for (name += first.size() + 1; *name; name += String(name).size() + 1)
+        files.push_back(first + L"\\" + name);
+    if (files.empty()) files.push_back(first);
+    return files;
 }
 
 }  // namespace
@@ -105,37 +124,26 @@ std::optional<TColor> TValueDialogs::AskColor(TColor present) {
 
 std::optional<String> TValueDialogs::AskLines(const String& present) {
     TForm form(nullptr);
-    form.SetCaption(L"Zeilen");
-    form.SetClientWidth(420);
-    form.SetClientHeight(300);
-    form.SetPosition(poScreenCenter);
+    PrepareDialog(form, L"Zeilen", {420, 300}, true);
     auto* memo = new TMemo(&form);
-    memo->SetBounds(10, 10, 400, 245);
+    memo->SetBounds(DialogMargin, DialogMargin, 420 - 2 * DialogMargin,
+                    300 - 3 * DialogMargin - DialogButtonHeight);
     memo->SetAnchors({akLeft, akTop, akRight, akBottom});
     memo->SetScrollBars(ssBoth);
     memo->SetText(present);
     memo->SetParent(&form);
-    AddDialogButton(form, 224, L"OK", mrOk);
-    AddDialogButton(form, 320, L"Abbrechen", mrCancel);
+    AddOkAndCancel(form);
     if (form.ShowModal() != mrOk) return std::nullopt;
     return memo->GetText();
 }
 
 std::optional<String> TValueDialogs::AskPicture(const String& extensions) {
-    String filter = L"Bilder (" + extensions + L")";
-    filter.push_back(L'\0');
-    filter += extensions;
-    filter.push_back(L'\0');
-    std::array<wchar_t, 32'768> name{};
-    OPENFILENAMEW dialog{};
-    dialog.lStructSize = sizeof dialog;
-    dialog.hwndOwner = ::GetActiveWindow();
-    dialog.lpstrFilter = filter.c_str();
-    dialog.lpstrFile = name.data();
-    dialog.nMaxFile = static_cast<DWORD>(name.size());
-    dialog.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_EXPLORER;
-    if (!::GetOpenFileNameW(&dialog)) return std::nullopt;
-    return String(name.data());
+    const std::vector<String> files = AskPictureFiles(extensions, 0);
+    return files.empty() ? std::nullopt : std::optional(files.front());
+}
+
+std::vector<String> TValueDialogs::AskPictures() {
+    return AskPictureFiles(AllPictures, OFN_ALLOWMULTISELECT);
 }
 
 bool HasValueEditor(const TPropertyLine& line) {
@@ -143,7 +151,8 @@ bool HasValueEditor(const TPropertyLine& line) {
     if (IsColor(line)) return true;
     const TPersistent* held = HeldBy(line, *line.Holders.front());
     return dynamic_cast<const TFont*>(held) || dynamic_cast<const TStrings*>(held) ||
-           dynamic_cast<const TPicture*>(held) || dynamic_cast<const TGraphic*>(held);
+           dynamic_cast<const TPicture*>(held) || dynamic_cast<const TGraphic*>(held) ||
+           (dynamic_cast<const TCollection*>(held) && line.Holders.size() == 1);
 }
 
 void EditValue(TDesignDocument& document, const TPropertyLine& line, TValueDialogs& dialogs) {
@@ -151,7 +160,9 @@ void EditValue(TDesignDocument& document, const TPropertyLine& line, TValueDialo
     TPersistent* held = HeldBy(line, *line.Holders.front());
     if (const auto* font = dynamic_cast<TFont*>(held)) return EditFont(document, line, *font, dialogs);
     if (const auto* lines = dynamic_cast<TStrings*>(held)) return EditLines(document, line, *lines, dialogs);
-    if (dynamic_cast<TPicture*>(held)) return EditPicture<TPicture>(document, line, AllPictures, dialogs);
+    if (dynamic_cast<TCollection*>(held)) return EditCollection(document, line, dialogs);
+    if (dynamic_cast<TPicture*>(held))
+        return EditPicture<TPicture>(document, line, TValueDialogs::AllPictures, dialogs);
     if (const auto* graphic = dynamic_cast<TGraphic*>(held)) {
         const bool isIcon = SameText(graphic->ClassName(), L"TIcon");
         EditPicture<TGraphic>(document, line, isIcon ? L"*.ico" : L"*.bmp", dialogs);

@@ -16,6 +16,9 @@ namespace designer {
 /// Asks the user for values that are not typed in one line. Replaced by tests.
 class TValueDialogs {
 public:
+    /// The extensions of all pictures that can be loaded.
+    static constexpr wchar_t AllPictures[] = L"*.bmp;*.png;*.jpg;*.jpeg;*.ico";
+
     virtual ~TValueDialogs() = default;
     /// Lets the user change the font; false when he changed his mind.
     [[nodiscard]] virtual bool AskFont(TFont& font);
@@ -24,6 +27,8 @@ public:
     [[nodiscard]] virtual std::optional<String> AskLines(const String& present);
     /// The file of a picture of these extensions ("*.bmp;*.png").
     [[nodiscard]] virtual std::optional<String> AskPicture(const String& extensions);
+    /// The files of any number of pictures, to be added to others.
+    [[nodiscard]] virtual std::vector<String> AskPictures();
 };
 
 /// True when the line's value can be edited in a window of its own.

@@ -77,26 +77,30 @@ std::vector<String> TPropertyList::Choices(const TPropertyLine& line) const {
     return PropertyChoices(*line.Row, FDocument.Root());
 }
 
-void TPropertyList::Refresh() {
-    FLines.clear();
-    THolders holders;
-    THolders models;
-    for (TComponent* component : FDocument.Selection().Items()) {
-        holders.push_back(component);
-        models.push_back(&NewOf(*component));
+TPropertyList::THolders TPropertyList::Subjects() const {
+    if (FSubject) {
+        TPersistent* subject = FSubject();
+        return subject ? THolders{subject} : THolders{};
     }
-    if (holders.empty()) {
-        holders.push_back(&FDocument.Root());
-        models.push_back(&NewOf(FDocument.Root()));
-    }
-    AddLines({}, 0, holders, models);
+    const auto chosen = FDocument.Selection().Items();
+    return chosen.empty() ? THolders{&FDocument.Root()} : THolders(chosen.begin(), chosen.end());
 }
 
-TComponent& TPropertyList::NewOf(const TComponent& component) {
-    std::unique_ptr<TComponent>& model = FNew[&component.ClassType()];
-    if (!model) model.reset(component.ClassType().Create(nullptr));
+void TPropertyList::Refresh() {
+    FLines.clear();
+    const THolders holders = Subjects();
+    THolders models;
+    for (const TPersistent* holder : holders)
+        models.push_back(&NewOf(*holder));
+    if (!holders.empty()) AddLines({}, 0, holders, models);
+}
+
+TPersistent& TPropertyList::NewOf(const TPersistent& object) {
+    std::unique_ptr<TPersistent>& model = FNew[&object.ClassType()];
+    if (!model) model.reset(object.ClassType().Create(nullptr));
+    if (!model) model.reset(object.ClassType().CreateItem(nullptr));
     // A class that can't be made is its own model: nothing in it counts as changed.
-    return model ? *model : const_cast<TComponent&>(component);
+    return model ? *model : const_cast<TPersistent&>(object);
 }
 
 void TPropertyList::AddLines(const String& prefix, int depth, const THolders& holders,

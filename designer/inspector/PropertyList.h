@@ -37,6 +37,8 @@ public:
 
     TPropertyList(TDesignDocument& document, TKind kind) : FDocument(document), FKind(kind) {}
 
+    /// Shows what the function returns instead of the chosen components; nothing while it returns null.
+    void SetSubject(std::function<TPersistent*()> subject) { FSubject = std::move(subject); }
     /// Reads all values anew.
     void Refresh();
     /// Forgets all components, before they are made anew.
@@ -67,7 +69,8 @@ private:
     void SetTextOf(const TPropertyLine& line, TPersistent& holder, const String& text);
     [[nodiscard]] bool IsShown(const TPublishedProperty& row, const THolders& holders) const;
     [[nodiscard]] std::vector<const TPublishedProperty*> CommonRows(const THolders& holders) const;
-    [[nodiscard]] TComponent& NewOf(const TComponent& component);
+    [[nodiscard]] TPersistent& NewOf(const TPersistent& object);
+    [[nodiscard]] THolders Subjects() const;
     [[nodiscard]] bool IsFormPlace(const TPropertyLine& line, const TPersistent& holder) const;
     void EditLine(const String& path, const std::function<void(const TPropertyLine&)>& change);
 
@@ -75,8 +78,9 @@ private:
     TKind FKind;
     std::vector<TPropertyLine> FLines;
     std::set<String> FExpanded;
-    /// One new component of each class that was shown, to compare with.
-    std::map<const TMetaClass*, std::unique_ptr<TComponent>> FNew;
+    std::function<TPersistent*()> FSubject;
+    /// One new object of each class that was shown, to compare with.
+    std::map<const TMetaClass*, std::unique_ptr<TPersistent>> FNew;
 };
 
 }  // namespace designer

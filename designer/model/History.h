@@ -34,6 +34,8 @@ public:
     void MarkSaved() { FSaved = FPosition; }
     [[nodiscard]] bool IsSaved() const { return FSaved == FPosition; }
     [[nodiscard]] std::size_t Count() const { return FSteps.size(); }
+    /// How many of the edits are done and not undone.
+    [[nodiscard]] std::size_t Position() const { return FPosition; }
 
 private:
     struct TStep {

@@ -1,5 +1,6 @@
 // What the commands of menus and toolbar do.
 
+#include "designer/dialogs/ComponentEditors.h"
 #include "designer/dialogs/TabOrderDialog.h"
 #include "designer/files/SafeFile.h"
 #include "designer/model/Clipping.h"
@@ -146,6 +147,12 @@ void TDesignerWindow::RenameChosen() {
     TComponent& component = leader ? *leader : FDocument.Root();
     const auto name = FDialogs->AskName(component.GetName());
     if (name && *name != component.GetName()) Try([&] { Rename(FDocument, component, *name); });
+}
+
+void TDesignerWindow::EditChosen() {
+    TComponent* leader = FDocument.Selection().Leader();
+    if (leader && HasComponentEditor(*leader))
+        Try([&] { EditComponent(FDocument, *leader, *FValueDialogs); });
 }
 
 void TDesignerWindow::EditTabOrder() {

@@ -4,8 +4,8 @@
 
 #include <array>
 
-#include "buttons/UnitQV7SkinButton.h"
 #include "buttons/UnitQV7SkinMessageDialog.h"
+#include "designer/dialogs/DialogParts.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/stdctrls/Edit.h"
 #include "platform/vcl/stdctrls/Label.h"
@@ -96,18 +96,12 @@ bool TDesignerDialogs::AskToRecover(const String& title) {
 }
 
 void TDesignerDialogs::ShowError(const String& message) {
-    const std::array choices{
-        TQV7SkinMessageChoice{.Caption = L"&Schließen", .Result = mrOk, .Default = true, .Cancel = true}};
-    QV7SkinMessageDialog(L"QV7 Designer", message, msgiError, choices);
+    ShowErrorMessage(message);
 }
 
 std::optional<String> TDesignerDialogs::AskName(const String& present) {
     TForm form(nullptr);
-    form.SetCaption(L"Umbenennen");
-    form.SetBorderStyle(bsDialog);
-    form.SetClientWidth(300);
-    form.SetClientHeight(96);
-    form.SetPosition(poScreenCenter);
+    PrepareDialog(form, L"Umbenennen", {300, 104}, false);
     auto* label = new TLabel(&form);
     label->SetCaption(L"Name der Komponente:");
     label->SetBounds(12, 12, 270, 16);
@@ -116,17 +110,7 @@ std::optional<String> TDesignerDialogs::AskName(const String& present) {
     edit->SetBounds(12, 32, 276, 21);
     edit->SetText(present);
     edit->SetParent(&form);
-    const auto addButton = [&form](int left, const wchar_t* caption, TModalResult result) {
-        auto* button = new TQV7SkinButton(&form);
-        button->SetCaption(caption);
-        button->SetBounds(left, 62, 90, 25);
-        button->SetModalResult(result);
-        button->SetDefault(result == mrOk);
-        button->SetCancel(result == mrCancel);
-        button->SetParent(&form);
-    };
-    addButton(102, L"OK", mrOk);
-    addButton(198, L"Abbrechen", mrCancel);
+    AddOkAndCancel(form);
     if (form.ShowModal() != mrOk) return std::nullopt;
     return edit->GetText();
 }

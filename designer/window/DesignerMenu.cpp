@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "designer/dialogs/ComponentEditors.h"
 #include "designer/model/Arranging.h"
 #include "designer/window/DesignerWindow.h"
 #include "platform/vcl/menus/MenuItem.h"
@@ -58,6 +59,7 @@ void TDesignerWindow::MakeMenu() {
     AddItem(edit, L"A&lles auswählen", L"Ctrl+A", [this] { ChooseAll(); });
     edit.NewBottomLine();
     AddItem(edit, L"U&mbenennen …", L"F2", [this] { RenameChosen(); });
+    FEditItems.push_back(&AddItem(edit, L"&Inhalt bearbeiten …", L"Ctrl+E", [this] { EditChosen(); }));
 
     AddArrangeItems(AddSubmenu(bar, L"A&nordnen"));
     TMenuItem& view = AddSubmenu(bar, L"&Formular");
@@ -108,6 +110,7 @@ void TDesignerWindow::MakeContextMenu() {
     items.NewBottomLine();
     AddArrangeItems(AddSubmenu(items, L"A&nordnen"));
     AddItem(items, L"U&mbenennen …", nullptr, [this] { RenameChosen(); });
+    FEditItems.push_back(&AddItem(items, L"&Inhalt bearbeiten …", nullptr, [this] { EditChosen(); }));
 }
 
 void TDesignerWindow::UpdateRecentFiles(TObject*) {
@@ -128,6 +131,9 @@ void TDesignerWindow::UpdateMenu(TObject*) {
     FRedoItem->SetCaption(history.CanRedo() ? L"&Wiederholen: " + history.RedoLabel()
                                             : String(L"&Wiederholen"));
     FRedoItem->SetEnabled(history.CanRedo());
+    const TComponent* leader = FDocument.Selection().Leader();
+    for (TMenuItem* item : FEditItems)
+        item->SetEnabled(leader && HasComponentEditor(*leader));
 }
 
 }  // namespace designer

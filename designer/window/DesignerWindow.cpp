@@ -3,6 +3,8 @@
 #include <exception>
 #include <utility>
 
+#include "designer/dialogs/ComponentEditors.h"
+#include "designer/inspector/InspectorPages.h"
 #include "designer/model/Arranging.h"
 #include "designer/palette/PaletteIcons.h"
 #include "header/UnitQV7SkinHeaderItems.h"
@@ -12,16 +14,6 @@
 #include "platform/vcl/streaming/FormText.h"
 
 namespace designer {
-namespace {
-
-/// A tab with nothing but its caption, which keeps away from the edge.
-TQV7SkinHeaderItemTabExt* MakeTab(const String& caption) {
-    auto* tab = new TQV7SkinHeaderItemTabExt(bckgrndStandard, caption);
-    tab->SetStyle({});
-    return tab;
-}
-
-}  // namespace
 
 const TMetaClass& TDesignerWindow::StaticClass() {
     using C = TDesignerWindow;
@@ -123,20 +115,11 @@ void TDesignerWindow::ShowPalettePage(const TRegisteredPage& page) {
 }
 
 void TDesignerWindow::MakeInspector() {
-    const auto add = [this](const wchar_t* caption, TPropertyList& list) {
-        auto* tab = MakeTab(caption);
-        tab->OnClick = [this, &list](TQV7SkinHeaderItemCustom*, TMouseButton, TShiftState, int, int) {
-            FGrid->SetList(&list);
-        };
-        FInspectorTabs->GetItems().Add(tab);
-    };
-    add(L"Eigenschaften", FProperties);
-    add(L"Ereignisse", FEvents);
+    AddInspectorPages(*FInspectorTabs, *FGrid, FProperties, FEvents);
     FGrid->OnRefused = [this](const String& message) { FDialogs->ShowError(message); };
     FGrid->OnEditValue = [this](const TPropertyLine& line) {
         Try([&] { EditValue(FDocument, TPropertyLine(line), *FValueDialogs); });
     };
-    FInspectorTabs->GetItems()[0]->Click(mbLeft, {}, 1, 1);
 }
 
 // --- what has changed
@@ -194,7 +177,10 @@ void TDesignerWindow::OpenItem(TComponent* item) {
         FDocument.Selection().Clear();
     else
         FDocument.Selection().SetOnly(item);
-    RenameChosen();
+    if (HasComponentEditor(*item))
+        EditChosen();
+    else
+        RenameChosen();
 }
 
 void TDesignerWindow::ShowContextMenu(TPoint screen) {

@@ -67,6 +67,8 @@ public:
     void ChooseAll();
     void RenameChosen();
     void EditTabOrder();
+    /// Opens the window for what lies in the chosen component, when there is one (`EditComponent`).
+    void EditChosen();
     /// Switches between the form and its text. Stays with a text that can't be parsed.
     void ToggleText();
     void Preview();
@@ -132,6 +134,7 @@ private:
     TMenuItem* FUndoItem = nullptr;
     TMenuItem* FRedoItem = nullptr;
     TMenuItem* FRecentItem = nullptr;
+    std::vector<TMenuItem*> FEditItems;  ///< For components that have an editor.
     bool FUpdatingText = false;
 };
 

@@ -5,6 +5,9 @@
 
 #include "buttons/UnitQV7SkinButton.h"
 #include "designer/dialogs/RowList.h"
+#include "designer/inspector/InspectorGrid.h"
+#include "header/UnitQV7SkinHeaderItems.h"
+#include "header/UnitQV7SkinToolbar.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/menus/ShortCuts.h"
@@ -43,6 +46,36 @@ void DialogDriver::Press(const wchar_t* caption) {
     auto& button = RequireBelow<TQV7SkinButton>(
         FForm, [caption](TQV7SkinButton& b) { return SameCaption(b.GetCaption(), caption); });
     Input.ClickAt(button.WindowHandle(), button.GetWidth() / 2, button.GetHeight() / 2);
+}
+
+void DialogDriver::PressTool(const wchar_t* caption) {
+    auto& toolbar = RequireBelow<TQV7SkinToolbar>(FForm, [](TQV7SkinToolbar&) { return true; });
+    for (int i = 0; i < toolbar.GetItems().GetCount(); ++i) {
+        if (toolbar.GetItems()[i]->GetCaption() != caption) continue;
+        const TRect place = toolbar.GetItemRect(i);
+        return Input.ClickAt(toolbar.WindowHandle(), toolbar.GetHorzOffset() + place.Left + 8,
+                             toolbar.GetHeight() / 2);
+    }
+    throw EInvalidOperation(L"The toolbar has no such button");
+}
+
+TInspectorGrid& DialogDriver::Grid() const {
+    return RequireBelow<TInspectorGrid>(FForm, [](TInspectorGrid&) { return true; });
+}
+
+void DialogDriver::SetLine(const wchar_t* path, const wchar_t* value) {
+    Grid().Choose(path);
+    Grid().SetFocus();
+    Input.Chord({VK_CONTROL}, 'A');
+    Input.Type(value);
+    Input.KeyPress(VK_RETURN);
+}
+
+std::vector<String> DialogDriver::Rows() const {
+    std::vector<String> rows;
+    for (const TListRow& row : List().Rows())
+        rows.push_back(String(static_cast<std::size_t>(row.Depth) * 2, L' ') + row.Text);
+    return rows;
 }
 
 void DialogDriver::ClickRow(int index) {

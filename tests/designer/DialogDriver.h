@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "designer/Namespace.h"
 #include "platform/vcl/forms/CustomForm.h"
@@ -8,6 +9,7 @@
 
 namespace designer {
 
+class TInspectorGrid;
 class TRowList;
 
 /// A dialog and its parts as a user finds them.
@@ -18,6 +20,13 @@ public:
     [[nodiscard]] TRowList& List() const;
     /// Presses the button with that caption by mouse; raises EInvalidOperation when there is none.
     void Press(const wchar_t* caption);
+    /// Presses the button of the toolbar.
+    void PressTool(const wchar_t* caption);
+    [[nodiscard]] TInspectorGrid& Grid() const;
+    /// Types a value for the line of the inspector that shows.
+    void SetLine(const wchar_t* path, const wchar_t* value);
+    /// What the rows of the list show, each moved in by two blanks for each level.
+    [[nodiscard]] std::vector<String> Rows() const;
     /// Clicks into the middle of a row of the list.
     void ClickRow(int index);
     void DragRow(int index, int before);
