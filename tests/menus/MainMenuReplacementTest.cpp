@@ -120,7 +120,7 @@ TEST_F(MainMenuReplacementTest, TheMouseReachesTheDeepestItem) {
     Input.Click();
     ASSERT_EQ(Levels(), 1U);
     moveTo(OpenMenu().ActionControls()[1]);
-    ASSERT_EQ(Levels(), 2U);
+    ASSERT_TRUE(PumpUntil([&] { return Levels() == 2; }));
     moveTo(OpenMenu(1).ActionControls()[0]);
     Input.Click();
     EXPECT_EQ(Clicked, Names{L"&Deep"});

@@ -158,6 +158,9 @@ void TActionMainMenuBar::Dispatch(TMessage& message) {
             if (guard.IsAlive()) CloseMenu();
             return;
         }
+        case WM_TIMER:
+            if (!FLoop || !FLoop->HandleTimer(message.WParam)) TCustomActionBar::Dispatch(message);
+            return;
         case CM_DIALOGCHAR:
             return CmDialogChar(message);
         case CM_APPSYSCOMMAND:

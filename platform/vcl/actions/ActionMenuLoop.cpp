@@ -1,6 +1,7 @@
 #include "platform/vcl/actions/ActionMenuLoop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/vcl/actions/ActionControl.h"
 #include "platform/vcl/actions/ActionMenuBars.h"
@@ -65,6 +66,7 @@ void TActionMenuLoop::CloseFrom(std::size_t level) {
 void TActionMenuLoop::Leave(TCustomActionControl* chosen) {
     if (!IsActive()) return;
     const TLifeGuard bar(FBar);
+    FUnsettled = false;
     TBasicAction* action = nullptr;
     if (chosen && chosen->GetActionClient()) action = chosen->GetActionClient()->GetAction();
     Remove();
@@ -153,22 +155,70 @@ void TActionMenuLoop::MouseMove(TPoint screen) {
         if (!FMenus.empty()) Select(*FMenus.back(), nullptr);
         return;
     }
-    if (!control || control == SelectedIn(*bar)) return;
-    if (bar == &FBar) {
-        if (FMenus.empty())
-            Select(FBar, control);
-        else if (!Open(FBar, *control, false) && IsActive())
-            Select(FBar, control);
+    if (bar != &FBar) {
+        const auto menu = std::find_if(FMenus.begin(), FMenus.end(),
+                                       [&](const auto& candidate) { return candidate.get() == bar; });
+        if (control && !control->IsSeparator())
+            MoveInto(static_cast<std::size_t>(menu - FMenus.begin()), *control);
         return;
     }
-    if (control->IsSeparator()) return;
-    if (control->HasSubmenu())
-        Open(*bar, *control, false);
-    else
-        ControlsGoing(*bar), Select(*bar, control);
+    if (!control || control == SelectedIn(*bar)) return;
+    if (FMenus.empty())
+        Select(FBar, control);
+    else if (!Open(FBar, *control, false) && IsActive())
+        Select(FBar, control);
+}
+
+void TActionMenuLoop::MoveInto(std::size_t level, TCustomActionControl& control) {
+    // On its way into a submenu the mouse may have crossed other items of the menus above.
+    for (std::size_t above = 0; above < level; ++above)
+        if (TCustomActionControl* parent = FMenus[above + 1]->GetParentControl())
+            if (parent != SelectedIn(*FMenus[above])) Select(*FMenus[above], parent);
+    if (&control == SelectedIn(*FMenus[level])) {
+        if (FUnsettledLevel != level) FUnsettled = false;
+        return;
+    }
+    if (level + 1 < FMenus.size()) Select(*FMenus[level + 1], nullptr);
+    Select(*FMenus[level], &control);
+    SettleLater(level);
+}
+
+void TActionMenuLoop::SettleLater(std::size_t level) {
+    FUnsettled = true;
+    FUnsettledLevel = level;
+    UINT delay = 400;
+    ::SystemParametersInfoW(SPI_GETMENUSHOWDELAY, 0, &delay, 0);
+    if (delay == 0 || !::SetTimer(FBar.GetHandle(), reinterpret_cast<UINT_PTR>(this), delay, nullptr))
+        Settle();
+}
+
+bool TActionMenuLoop::HandleTimer(UINT_PTR id) {
+    if (id != reinterpret_cast<UINT_PTR>(this)) return false;
+    ::KillTimer(FBar.WindowHandle(), id);
+    Settle();
+    return true;
+}
+
+void TActionMenuLoop::Settle() {
+    if (!FUnsettled) return;
+    CloseUnsettled();
+    if (!IsActive() || FUnsettledLevel + 1 != FMenus.size()) return;
+    TActionPopupMenu& menu = *FMenus[FUnsettledLevel];
+    TCustomActionControl* control = SelectedIn(menu);
+    if (control && control->HasSubmenu()) Open(menu, *control, false);
+}
+
+void TActionMenuLoop::CloseUnsettled() {
+    const std::size_t below = FUnsettledLevel + 1;
+    if (!std::exchange(FUnsettled, false) || below >= FMenus.size()) return;
+    const TCustomActionControl* selected = SelectedIn(*FMenus[FUnsettledLevel]);
+    if (!selected || FMenus[below]->GetParentControl() != selected) CloseFrom(below);
 }
 
 bool TActionMenuLoop::MouseDown(MSG& message, TPoint screen) {
+    const TLifeGuard guard(FBar);
+    Settle();
+    if (!guard.IsAlive() || !IsActive()) return true;
     TCustomActionBar* bar = nullptr;
     TCustomActionControl* control = ControlAt(screen, bar);
     FPressOnOpen = false;
@@ -287,6 +337,8 @@ void TActionMenuLoop::Letter(wchar_t letter) {
 }
 
 bool TActionMenuLoop::KeyDown(MSG& message) {
+    // Keys go on from what is highlighted, not from the submenu of an item that the mouse has left.
+    CloseUnsettled();
     switch (message.wParam) {
         case VK_ESCAPE:
             StepBack();

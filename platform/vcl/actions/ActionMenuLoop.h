@@ -32,6 +32,8 @@ public:
     [[nodiscard]] static TCustomActionControl* SelectedIn(const TCustomActionBar& bar);
 
     bool FilterMessage(MSG& message) override;
+    /// The bar's window got this timer; true when it was the one of the delay.
+    bool HandleTimer(UINT_PTR id);
 
 private:
     using Menus = std::vector<std::unique_ptr<TActionPopupMenu>>;
@@ -46,6 +48,13 @@ private:
     // mouse
     [[nodiscard]] TCustomActionControl* ControlAt(TPoint screen, TCustomActionBar*& bar) const;
     void MouseMove(TPoint screen);
+    void MoveInto(std::size_t level, TCustomActionControl& control);
+    /// Opens and closes submenus below that level for what is highlighted there, after the system's delay.
+    void SettleLater(std::size_t level);
+    /// Does so now, if it is still to be done.
+    void Settle();
+    /// Does only the closing now, if it is still to be done.
+    void CloseUnsettled();
     bool MouseDown(MSG& message, TPoint screen);
     void MouseUp(TPoint screen);
     // keyboard
@@ -65,6 +74,8 @@ private:
     TActionMainMenuBar& FBar;
     Menus FMenus;
     TPoint FLastMouse{-1, -1};
+    std::size_t FUnsettledLevel = 0;
+    bool FUnsettled = false;    ///< The mouse has moved to an item whose submenu is to open later.
     bool FPressOnOpen = false;  ///< The press that is under way opened the menu on which it lies.
 };
 

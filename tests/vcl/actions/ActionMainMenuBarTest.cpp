@@ -151,10 +151,68 @@ TEST_F(ActionMainMenuBarTest, MovingAlongTheOpenBarSlides) {
     ASSERT_EQ(Levels(), 1U);
     EXPECT_EQ(Captions(*Bar->OpenMenus()[0]), (Names{L"&Copy", L"&More"}));
     Input.MoveTo(InMenu(0, 1));
-    ASSERT_EQ(Levels(), 2U);
+    ASSERT_TRUE(PumpUntil([&] { return Levels() == 2; }));
     Input.MoveTo(InMenu(1, 0));
     Input.Click();
     EXPECT_EQ(Ran, Names{L"&Deep"});
+}
+
+TEST_F(ActionMainMenuBarTest, SubmenusOpenAndCloseAWhileAfterTheMouse) {
+    Input.MoveTo(OnBar(1));
+    Input.Click();
+    Input.MoveTo(InMenu(0, 1));
+    EXPECT_EQ(Highlighted(0), L"&More");
+    EXPECT_EQ(Levels(), 1U);
+    ASSERT_TRUE(PumpUntil([&] { return Levels() == 2; }));
+    Input.MoveTo(InMenu(0, 0));
+    EXPECT_EQ(Highlighted(0), L"&Copy");
+    EXPECT_EQ(Levels(), 2U);
+    ASSERT_TRUE(PumpUntil([&] { return Levels() == 1; }));
+    EXPECT_EQ(Highlighted(0), L"&Copy");
+    EXPECT_EQ(Popups, (Names{L"&Edit", L"&More"}));
+}
+
+TEST_F(ActionMainMenuBarTest, APressOpensASubmenuAtOnce) {
+    Input.MoveTo(OnBar(1));
+    Input.Click();
+    Input.MoveTo(InMenu(0, 1));
+    Input.Press();
+    ASSERT_EQ(Levels(), 2U);
+    Input.Release();
+    EXPECT_EQ(Levels(), 2U);
+    Input.MoveTo(InMenu(1, 0));
+    Input.Click();
+    EXPECT_EQ(Ran, Names{L"&Deep"});
+}
+
+TEST_F(ActionMainMenuBarTest, TheWayIntoASubmenuMayCrossOtherItems) {
+    Input.MoveTo(OnBar(1));
+    Input.Click();
+    Input.MoveTo(InMenu(0, 1));
+    Input.Click();
+    ASSERT_EQ(Levels(), 2U);
+    Input.MoveTo(InMenu(0, 0));
+    Input.MoveTo(InMenu(1, 0));
+    EXPECT_EQ(Highlighted(0), L"&More");
+    EXPECT_EQ(Highlighted(1), L"&Deep");
+    ASSERT_EQ(Levels(), 2U);
+    Input.Click();
+    EXPECT_EQ(Ran, Names{L"&Deep"});
+}
+
+TEST_F(ActionMainMenuBarTest, KeysGoOnFromWhereTheMouseIs) {
+    Input.MoveTo(OnBar(1));
+    Input.Click();
+    Input.MoveTo(InMenu(0, 1));
+    Input.Click();
+    ASSERT_EQ(Levels(), 2U);
+    Input.MoveTo(InMenu(0, 0));
+    Input.KeyPress(VK_DOWN);
+    EXPECT_EQ(Levels(), 1U);
+    EXPECT_EQ(Highlighted(0), L"&More");
+    Input.KeyPress(VK_RIGHT);
+    EXPECT_EQ(Levels(), 2U);
+    EXPECT_EQ(Highlighted(1), L"&Deep");
 }
 
 TEST_F(ActionMainMenuBarTest, ASecondPressOnTheButtonCloses) {
