@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "buttons/UnitQV7SkinButtonMsgDlg.h"
+#include "platform/vcl/graphics/Brush.h"
+#include "platform/vcl/graphics/Canvas.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -14,6 +16,7 @@ class ProbeMsgDlgButton : public qv7skin::TQV7SkinButtonMsgDlg {
 public:
     using TQV7SkinButtonMsgDlg::TQV7SkinButtonMsgDlg;
     int Paints = 0;
+    vcl::TBrushStyle BrushAfterPaint = vcl::bsClear;
     std::vector<vcl::TRect> CaptionPlaces;
     std::vector<vcl::TRect> DescriptionPlaces;
 
@@ -30,6 +33,7 @@ protected:
     void Paint() override {
         ++Paints;
         TQV7SkinButtonMsgDlg::Paint();
+        BrushAfterPaint = GetCanvas().GetBrush().GetStyle();
     }
 };
 

@@ -112,6 +112,10 @@ TEST_F(MsgDlgButtonTest, TheDescriptionFollowsTheSizeOfTheCaptionWithTheNextPain
     Button->GetFontDescription().SetSize(30);
     PumpAll();
     EXPECT_EQ(Button->GetFontDescription().GetSize(), 11);
+    Button->GetFont().SetSize(2);
+    PumpAll();
+    EXPECT_EQ(Button->GetFontDescription().GetSize(), 1)
+        << "never so small that the system takes a size of its own";
 }
 
 TEST_F(MsgDlgButtonTest, PaintingDoesNotAskForAnotherPaint) {
@@ -206,6 +210,17 @@ TEST_F(MsgDlgButtonTest, EachStateHasItsImage) {
     EXPECT_EQ(shownImage(), ImageColor(4));
     Button->SetEnabled(false);
     EXPECT_EQ(shownImage(), ImageColor(3));
+    Button->SetDown(false);
+    Button->SetEnabled(true);
+    EXPECT_EQ(shownImage(), ImageColor(0));
+}
+
+TEST_F(MsgDlgButtonTest, PaintingPutsTheBrushBack) {
+    for (const bool enabled : {true, false}) {
+        Button->SetEnabled(enabled);
+        PumpAll();
+        EXPECT_EQ(Button->BrushAfterPaint, bsSolid) << enabled;
+    }
 }
 
 TEST_F(MsgDlgButtonTest, ImagesStandBehindTheMarginWithoutTheirMagenta) {
@@ -240,6 +255,15 @@ TEST_F(MsgDlgButtonTest, AShortListLendsItsFirstImage) {
     EXPECT_EQ(GetRValue(grey), GetGValue(grey));
     EXPECT_EQ(GetRValue(grey), GetBValue(grey));
     EXPECT_EQ(Shown().At(3, 22), White);
+}
+
+TEST_F(MsgDlgButtonTest, AListOfThreeLendsThePressedImageToAButtonThatIsOn) {
+    MakeImages(3);
+    const auto shownImage = [&] { return Shown().At(3 + 8, 30); };
+    Button->SetDown(true);
+    EXPECT_EQ(shownImage(), ImageColor(2));
+    MoveOn();
+    EXPECT_EQ(shownImage(), ImageColor(2));
 }
 
 TEST_F(MsgDlgButtonTest, ChangedImagesShow) {

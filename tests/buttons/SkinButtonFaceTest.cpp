@@ -168,6 +168,22 @@ TEST_F(SkinButtonFace, ANewButtonHasPicturesAsSoonAsItHasAWindow) {
     EXPECT_EQ(other->Regions, 1);
 }
 
+TEST_F(SkinButtonFace, LoadingMakesThePicturesEvenWithoutAWindow) {
+    test::ProbeSkinButton button(nullptr);
+    EXPECT_TRUE(button.Built.empty());
+    button.Loaded();
+    EXPECT_EQ(button.Built.size(), 6u);
+    button.SetWidth(60);
+    EXPECT_EQ(button.Built.size(), 12u);
+    EXPECT_EQ(button.GetStateImages()->GetWidth(), 60);
+}
+
+TEST_F(SkinButtonFace, NewPicturesShowAtOnce) {
+    const int before = Button->Paints;
+    Button->RebuildImages(true);
+    EXPECT_EQ(Button->Paints, before + 1);
+}
+
 TEST_F(SkinButtonFace, AButtonWithoutAreaHasNoPictures) {
     Button->SetBounds(50, 40, 0, 25);
     PumpAll();

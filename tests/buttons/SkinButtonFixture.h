@@ -12,15 +12,22 @@ namespace test {
 class ProbeSkinButton : public qv7skin::TCustomQV7SkinButton {
 public:
     using TCustomQV7SkinButton::BuildImage;
+    using TCustomQV7SkinButton::DrawFocusRect;
     using TCustomQV7SkinButton::GetStateImages;
+    using TCustomQV7SkinButton::Loaded;
     using TCustomQV7SkinButton::RebuildImages;
     using TCustomQV7SkinButton::RebuildRegion;
     using TCustomQV7SkinButton::TCustomQV7SkinButton;
 
     std::vector<velmora::TButtonExState> Built;
     int Regions = 0;
+    int Paints = 0;
 
 protected:
+    void Paint() override {
+        ++Paints;
+        TCustomQV7SkinButton::Paint();
+    }
     void BuildImage(velmora::TButtonExState State) override {
         Built.push_back(State);
         TCustomQV7SkinButton::BuildImage(State);

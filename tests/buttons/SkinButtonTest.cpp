@@ -169,6 +169,8 @@ TEST_F(SkinButton, DrawingTheFrameRestoresThePenColourOnly) {
     PumpAll();
     EXPECT_EQ(Button->GetCanvas().GetPen().GetColor(), clGreen);
     EXPECT_EQ(Button->GetCanvas().GetPen().GetStyle(), psDot);
+    Button->GetCanvas().GetBrush().SetStyle(bsSolid);
+    Button->DrawFocusRect();
     EXPECT_EQ(Button->GetCanvas().GetBrush().GetStyle(), bsClear);
 }
 

@@ -161,6 +161,9 @@ TEST_F(AdvGlowButton, AnAutomaticSizeFitsTheContentAndAsksTheHost) {
     Button->SetSpacing(5);
     EXPECT_EQ(Button->GetWidth(), before + 10);
     EXPECT_EQ(Button->GetHeight(), 50);
+    Button->Appearance().SetSystemFont(false);
+    Button->GetFont().SetSize(20);
+    EXPECT_GT(Button->GetWidth(), before + 10);
 }
 
 TEST_F(AdvGlowButton, ADoubleClickCountsWhenSomebodyListens) {

@@ -148,8 +148,10 @@ TEST_F(ButtonEx, AFontKeepsWhatItHasOfItsOwn) {
     Button->GetFontHovered().SetColor(clLime);
     Button->GetFont().SetColor(clRed);
     Button->GetFont().SetName(L"Courier New");
+    Button->GetFont().SetQuality(fqNonAntialiased);
     EXPECT_EQ(Button->GetFontHovered().GetColor(), clLime);
     EXPECT_EQ(Button->GetFontHovered().GetName(), L"Courier New");
+    EXPECT_EQ(Button->GetFontHovered().GetQuality(), fqNonAntialiased);
     EXPECT_EQ(Button->GetFontDisabled().GetColor(), clGrayText);
 }
 

@@ -136,6 +136,10 @@ TEST_F(FlickerFreePaintBoxTest, TheBufferHasTheControlsFont) {
     FBox->Repaint();
     EXPECT_EQ(FBox->GetBuffer().GetCanvas().GetFont().GetName(), L"Courier New");
     EXPECT_EQ(FBox->GetBuffer().GetCanvas().GetFont().GetSize(), 19);
+    FBox->GetBuffer().GetCanvas().GetFont().SetSize(30);
+    FBox->Paint();
+    EXPECT_EQ(FBox->GetBuffer().GetCanvas().GetFont().GetSize(), 19)
+        << "also when nothing is painted into it";
 }
 
 TEST_F(FlickerFreePaintBoxTest, ANewSizeGetsANewBuffer) {
@@ -209,6 +213,15 @@ TEST_F(FlickerFreePaintBoxTest, HalfDeformedItIsSmallAndPaleInTheCorner) {
     EXPECT_TRUE(SamePixels(test::ReadWindow(FBox->GetHandle()), [&](int x, int y) {
         return x < 25 && y < 20 ? COLORREF{faded} : COLORREF{BoxColor};
     }));
+}
+
+TEST_F(FlickerFreePaintBoxTest, DeformingAndItsEndReachTheScreenAtOnce) {
+    const test::WindowProbe probe(FBox->GetHandle());
+    FBox->ApplyDeform(0.5L, 0.5L, 0);
+    EXPECT_EQ(test::ReadWindow(FBox->GetHandle()).Count(BoxColor), 100 * 40);
+    FBox->NoDeform();
+    EXPECT_EQ(test::ReadWindow(FBox->GetHandle()).Count(clRed), 50 * 40);
+    EXPECT_FALSE(probe.Saw(WM_PAINT));
 }
 
 TEST_F(FlickerFreePaintBoxTest, ItStaysDeformedUntilToldOtherwise) {

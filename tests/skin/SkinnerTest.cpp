@@ -40,8 +40,11 @@ TEST_F(SkinnerTest, ThePanelReachesFurtherLeftAndUp) {
     EXPECT_EQ(skinner.GetPanel()->GetControlCount(), 1);
 }
 
-TEST_F(SkinnerTest, TheControlShowsInsideTheFrame) {
+TEST_F(SkinnerTest, TheControlShowsInsideTheFrameAlsoAfterItChangedItsSize) {
     TSkinner skinner(FControl);
+    FControl->SetBounds(30, 40, 60, 50);
+    skinner.Resize();
+    FControl->SetBounds(10, 10, 100, 30);
     skinner.Resize();
     TBitmap mask(103, 32, pf24bit);
     ComposeNinePartFrame(mask, TNinePartBitmaps(L"MASK").Pieces(), Magenta);
