@@ -1,5 +1,7 @@
 #include "buttons/SkinButtonPieces.h"
 
+#include "skin/utils/SharedWhileUsed.h"
+
 namespace qv7skin {
 namespace {
 
@@ -22,10 +24,7 @@ TSkinButtonPieces::TSkinButtonPieces()
               TNinePartBitmaps(SkinResourceName(Family, ssDisabled))} {}
 
 std::shared_ptr<const TSkinButtonPieces> TSkinButtonPieces::Shared() {
-    static std::weak_ptr<const TSkinButtonPieces> alive;
-    std::shared_ptr<const TSkinButtonPieces> pieces = alive.lock();
-    if (!pieces) alive = pieces = std::shared_ptr<const TSkinButtonPieces>(new TSkinButtonPieces);
-    return pieces;
+    return SharedWhileUsed<TSkinButtonPieces>();
 }
 
 }  // namespace qv7skin

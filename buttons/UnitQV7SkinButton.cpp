@@ -1,10 +1,10 @@
 #include "buttons/UnitQV7SkinButton.h"
 
 #include <optional>
-#include <utility>
 
 #include "buttons/SkinButtonPieces.h"
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/ScopedValue.h"
 #include "skin/UnitQV7SkinColors.h"
 #include "skin/utils/BitmapRegion.h"
 
@@ -13,20 +13,6 @@ namespace {
 
 constexpr int DefaultWidth = 100;
 constexpr int DefaultHeight = 25;
-
-/// Gives a variable a value for the length of a scope.
-template <class T>
-class TScopedValue {
-public:
-    TScopedValue(T& variable, T value) : FVariable(variable), FFormer(std::exchange(variable, value)) {}
-    TScopedValue(const TScopedValue&) = delete;
-    TScopedValue& operator=(const TScopedValue&) = delete;
-    ~TScopedValue() { FVariable = FFormer; }
-
-private:
-    T& FVariable;
-    T FFormer;
-};
 
 }  // namespace
 

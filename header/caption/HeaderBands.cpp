@@ -2,6 +2,7 @@
 
 #include "platform/vcl/core/Exceptions.h"
 #include "skin/surfaces/Loaders.h"
+#include "skin/utils/SharedWhileUsed.h"
 
 namespace qv7skin {
 namespace {
@@ -25,13 +26,7 @@ THeaderBands::THeaderBands()
 THeaderBands::~THeaderBands() = default;
 
 std::shared_ptr<const THeaderBands> THeaderBands::Shared() {
-    static std::weak_ptr<const THeaderBands> shared;
-    std::shared_ptr<const THeaderBands> bands = shared.lock();
-    if (!bands) {
-        bands = std::make_shared<const THeaderBands>();
-        shared = bands;
-    }
-    return bands;
+    return SharedWhileUsed<THeaderBands>();
 }
 
 }  // namespace qv7skin

@@ -1,6 +1,7 @@
 #include "header/items/TabGlyphs.h"
 
 #include "skin/surfaces/Loaders.h"
+#include "skin/utils/SharedWhileUsed.h"
 
 namespace qv7skin {
 
@@ -15,10 +16,7 @@ TTabGlyphs::TTabGlyphs()
 TTabGlyphs::~TTabGlyphs() = default;
 
 std::shared_ptr<const TTabGlyphs> TTabGlyphs::Shared() {
-    static std::weak_ptr<const TTabGlyphs> alive;
-    std::shared_ptr<const TTabGlyphs> glyphs = alive.lock();
-    if (!glyphs) alive = glyphs = std::make_shared<const TTabGlyphs>();
-    return glyphs;
+    return SharedWhileUsed<TTabGlyphs>();
 }
 
 TBitmap& TTabGlyphs::Lock(bool selected, bool locked) const {

@@ -2,26 +2,12 @@
 
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/LifeGuard.h"
+#include "platform/vcl/core/ScopedValue.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/surfaces/Fade.h"
 #include "skin/utils/Rounding.h"
 
 namespace qv7skin {
-namespace {
-
-/// Sets a flag for the length of a scope.
-class TFlagScope {
-public:
-    explicit TFlagScope(bool& flag) : FFlag(flag) { FFlag = true; }
-    ~TFlagScope() { FFlag = false; }
-    TFlagScope(const TFlagScope&) = delete;
-    TFlagScope& operator=(const TFlagScope&) = delete;
-
-private:
-    bool& FFlag;
-};
-
-}  // namespace
 
 const TMetaClass& TFlickerFreePaintBox::StaticClass() {
     static const TMetaClass meta =
@@ -159,12 +145,12 @@ void TFlickerFreePaintBox::CopyPart(const TRect& part) {
 }
 
 void TFlickerFreePaintBox::CopyToCanvas(const TRect& dest, const TBitmap& source, const TRect& sourceRect) {
-    const TFlagScope painting(FPainting);
+    const TScopedValue painting(FPainting, true);
     GetCanvas().CopyRect(dest, source, sourceRect);
 }
 
 void TFlickerFreePaintBox::ShowDeformed() {
-    const TFlagScope painting(FPainting);
+    const TScopedValue painting(FPainting, true);
     const TRect whole(0, 0, FBuffer->GetWidth(), FBuffer->GetHeight());
     const int right = RoundHalfEven(whole.Right * FScaleX);
     const int bottom = RoundHalfEven(whole.Bottom * FScaleY);

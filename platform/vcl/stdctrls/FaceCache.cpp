@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "platform/vcl/core/ScopedValue.h"
 #include "platform/vcl/graphics/DeviceContexts.h"
 #include "platform/vcl/graphics/GdiErrors.h"
 
@@ -10,18 +11,6 @@ namespace vcl {
 namespace {
 
 constexpr std::int64_t MemoryLimit = 1 << 20;
-
-/// Sets a flag for the length of a scope.
-class TFlagScope {
-public:
-    explicit TFlagScope(bool& flag) : FFlag(flag) { FFlag = true; }
-    TFlagScope(const TFlagScope&) = delete;
-    TFlagScope& operator=(const TFlagScope&) = delete;
-    ~TFlagScope() { FFlag = false; }
-
-private:
-    bool& FFlag;
-};
 
 }  // namespace
 
@@ -67,7 +56,7 @@ void TFaceCache::Paint(int look, const TPainter& paint) {
     const unsigned generation = FGeneration;
     const int top = FPaintTop = place * FSize.Height;
     {
-        const TFlagScope painting(FPainting);
+        const TScopedValue painting(FPainting, true);
         const TSaveDC state(FDC.Get());
         ::IntersectClipRect(FDC.Get(), 0, top, FSize.Width, top + FSize.Height);
         ::SetViewportOrgEx(FDC.Get(), 0, top, nullptr);
