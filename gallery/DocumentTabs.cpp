@@ -12,7 +12,8 @@
 namespace gallery {
 namespace {
 
-constexpr int StripHeight = 25;
+/// As high as the chevron.
+constexpr int StripHeight = 21;
 constexpr int FrameWidth = 1;
 /// The line that joins the dark selected tab with its content.
 constexpr int JointHeight = 3;

@@ -26,7 +26,7 @@ object TabsPage: TTabsPage
     Left = 24
     Top = 334
     Width = 420
-    Height = 29
+    Height = 25
     Look = bckgrndStandard
   end
 end
