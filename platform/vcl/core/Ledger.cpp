@@ -1,10 +1,10 @@
 #include "platform/vcl/core/Ledger.h"
 
 #include <mutex>
-#include <unordered_set>
 #include <vector>
 
 #include "platform/vcl/core/Object.h"
+#include "platform/vcl/core/PointerSet.h"
 
 namespace vcl {
 namespace {
@@ -15,7 +15,7 @@ namespace {
 struct TBook {
     // Recursive, since naming a class may for the first time build its description, which makes objects.
     std::recursive_mutex Lock;
-    std::unordered_set<const TObject*> Objects;
+    TPointerSet<const TObject> Objects;
     // Names are copied: the literal may stand in a library that is unloaded by now.
     std::map<std::string, long, std::less<>> Handles;
 };
@@ -44,13 +44,13 @@ void TLedger::Count(const char* kind, int change) {
 void TLedger::AddObject(const TObject* object) {
     TBook& book = Book();
     const std::lock_guard hold(book.Lock);
-    book.Objects.insert(object);
+    book.Objects.Insert(object);
 }
 
 void TLedger::RemoveObject(const TObject* object) {
     TBook& book = Book();
     const std::lock_guard hold(book.Lock);
-    book.Objects.erase(object);
+    book.Objects.Erase(object);
 }
 
 TLedger::Counts TLedger::Snapshot() {
@@ -62,7 +62,8 @@ TLedger::Counts TLedger::Snapshot() {
     }
     // As long as the lock is held, no object gets past the root destructor, so all of these can be asked. One
     // that is being built or destroyed answers with the class that it has at this moment.
-    const std::vector<const TObject*> living(book.Objects.begin(), book.Objects.end());
+    std::vector<const TObject*> living;
+    book.Objects.ForEach([&](const TObject* object) { living.push_back(object); });
     for (const TObject* object : living)
         ++counts["object:" + ToUtf8(object->ClassName())];
     return counts;

@@ -2,6 +2,8 @@
 
 #include "platform/vcl/core/WindowsApi.h"
 
+#include <array>
+#include <charconv>
 #include <limits>
 #include <optional>
 
@@ -169,7 +171,9 @@ String LowerCase(StringView text) {
 }
 
 String IntToStr(std::int64_t value) {
-    return std::to_wstring(value);
+    std::array<char, 24> digits;
+    const auto [end, error] = std::to_chars(digits.data(), digits.data() + digits.size(), value);
+    return {digits.data(), end};
 }
 
 std::int64_t StrToIntDef(StringView text, std::int64_t fallback) {
