@@ -1,5 +1,6 @@
 #include "platform/vcl/controls/WinControl.h"
 
+#include "platform/vcl/controls/ControlCanvas.h"
 #include "platform/vcl/controls/MouseState.h"
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -23,7 +24,11 @@ TWinControl::~TWinControl() {
     ForgetControl(*this);
     if (GetParent()) RemoveFocus(true);
     // One call takes the windows of the whole subtree away, before the children go one by one.
-    if (FHandle) TWinControl::DestroyWindowHandle();
+    // No canvas of it keeps a device context of a window that is gone.
+    if (FHandle) {
+        FreeControlDeviceContexts();
+        TWinControl::DestroyWindowHandle();
+    }
     while (GetControlCount() > 0) {
         TControl* child = GetControl(GetControlCount() - 1);
         TakeOut(child);
