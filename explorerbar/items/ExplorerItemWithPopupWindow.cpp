@@ -49,19 +49,15 @@ void TQV7SkinExplorerItemWithPopupWindow::SetWindowLocked(bool Value) {
 }
 
 void TQV7SkinExplorerItemWithPopupWindow::DoEnter(TCursor& Cursor) {
-    TQV7SkinExplorerBar* bar = GetBar();
-    if (!bar) return TQV7SkinExplorerItemLink::DoEnter(Cursor);
-    const TLifeGuard guard(*bar);
-    const bool wasHot = bar->HotObject == this;
+    const TLifeGuard guard(*this);
     TQV7SkinExplorerItemLink::DoEnter(Cursor);
-    // A handler may have freed the bar, or the item, which the bar then forgot.
-    if (guard.IsAlive() && (!wasHot || bar->HotObject == this)) DoShowWindow();
+    if (guard.IsAlive()) DoShowWindow();
 }
 
 void TQV7SkinExplorerItemWithPopupWindow::DoLeave(TCursor& Cursor) {
-    // First, since a handler of the event may free the item.
-    DoLeaveWindow(this);
+    const TLifeGuard guard(*this);
     TQV7SkinExplorerItemLink::DoLeave(Cursor);
+    if (guard.IsAlive()) DoLeaveWindow(this);
 }
 
 void TQV7SkinExplorerItemWithPopupWindow::DoShowWindow() {

@@ -2,6 +2,7 @@
 
 #include "explorerbar/UnitQV7SkinPopupForm.h"
 #include "explorerbar/items/ExplorerItemLink.h"
+#include "platform/vcl/core/LifeGuard.h"
 
 namespace qv7skin {
 
@@ -25,7 +26,7 @@ protected:
 
 /// A link that opens a popup window below itself while the mouse is on one of the two. It does not own the
 /// window, which must outlive it or be taken away before.
-class TQV7SkinExplorerItemWithPopupWindow : public TQV7SkinExplorerItemLink {
+class TQV7SkinExplorerItemWithPopupWindow : public TQV7SkinExplorerItemLink, public TGuarded {
 public:
     explicit TQV7SkinExplorerItemWithPopupWindow(TQV7SkinExplorerItemPopupWindow* PopupWindow);
     ~TQV7SkinExplorerItemWithPopupWindow() override;

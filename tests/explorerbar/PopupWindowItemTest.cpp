@@ -77,6 +77,46 @@ TEST_F(PopupWindowItem, ADetachedWindowIsLeftWhereItIs) {
     EXPECT_TRUE(Window().GetVisible());
 }
 
+TEST_F(PopupWindowItem, TheMouseMayGoFromTheWindowBackToTheItem) {
+    MoveTo(PopupItem());
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    MoveTo(PopupItem());
+    PumpAll();
+    EXPECT_TRUE(Window().GetVisible());
+    EXPECT_EQ(Bar().HotObject, &PopupItem());
+}
+
+TEST_F(PopupWindowItem, LeavingTheItemHidesItsWindowAfterTheEvent) {
+    MoveTo(PopupItem());
+    bool shownThen = false;
+    PopupItem().OnLeave = TNotifyEvent([&](TObject*) { shownThen = Window().GetVisible(); });
+    MoveTo(Item(0, 0));
+    EXPECT_TRUE(shownThen);
+    EXPECT_FALSE(Window().GetVisible());
+}
+
+TEST_F(PopupWindowItem, AHandlerMayLockTheWindowAsTheMouseLeaves) {
+    MoveTo(PopupItem());
+    PopupItem().OnLeave = TNotifyEvent([&](TObject*) { PopupItem().SetWindowLocked(true); });
+    MoveTo(Item(0, 0));
+    EXPECT_TRUE(Window().GetVisible());
+}
+
+TEST_F(PopupWindowItem, MayBeFreedAsTheMouseComesAndGoes) {
+    PopupItem().OnEnter = TNotifyEvent([&](TObject*) { Group(0).GetItems().Delete(1); });
+    MoveTo(PopupItem());
+    EXPECT_EQ(Group(0).GetItems().GetCount(), 1);
+    EXPECT_FALSE(Window().GetVisible());
+    auto& second = AddTo(0, new TQV7SkinExplorerItemWithPopupWindow(&Window()));
+    second.SetCaption(L"Mehr");
+    MoveTo(Item(0, 0));
+    MoveTo(second);
+    EXPECT_TRUE(Window().GetVisible());
+    second.OnLeave = TNotifyEvent([&](TObject*) { Group(0).GetItems().Delete(1); });
+    MoveTo(Item(0, 0));
+    EXPECT_EQ(Group(0).GetItems().GetCount(), 1);
+}
+
 TEST_F(PopupWindowItem, ReturnOpensItsWindowInsteadOfClicking) {
     int clicks = 0;
     PopupItem().OnClick = [&](TObject*) { ++clicks; };
