@@ -107,15 +107,28 @@ bool Runner::Wants(const std::string& name) const {
 void Runner::Row(const std::string& name, const std::string& peerName, Aim aim,
                  const std::function<void()>& ours, const std::function<void()>& peer) {
     if (!Wants(name)) return;
-    const int oursRepeats = RepeatsFor(ours);
-    const int peerRepeats = RepeatsFor(peer);
-    std::vector<double> oursTimes, peerTimes;
+    const std::vector<double> times = Times({ours, peer});
+    Add({name, peerName, aim, times[0], times[1]});
+}
+
+std::vector<double> Runner::Times(const std::vector<std::function<void()>>& works) {
+    std::vector<int> repeats;
+    for (const auto& work : works)
+        repeats.push_back(RepeatsFor(work));
+    std::vector<std::vector<double>> times(works.size());
     const double start = NowNs();
     for (int round = 0; round < MostRounds && (round < LeastRounds || NowNs() - start < RowNs); ++round) {
-        oursTimes.push_back(TimeNs(ours, oursRepeats));
-        peerTimes.push_back(TimeNs(peer, peerRepeats));
+        for (std::size_t i = 0; i < works.size(); ++i)
+            times[i].push_back(TimeNs(works[i], repeats[i]));
     }
-    FResults.push_back({name, peerName, aim, Median(std::move(oursTimes)), Median(std::move(peerTimes))});
+    std::vector<double> medians;
+    for (auto& of : times)
+        medians.push_back(Median(std::move(of)));
+    return medians;
+}
+
+void Runner::Add(Result result) {
+    FResults.push_back(std::move(result));
     Print(FResults.back());
 }
 

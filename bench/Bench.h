@@ -34,6 +34,10 @@ public:
     /// as "TransparentBlt".
     void Row(const std::string& name, const std::string& peerName, Aim aim, const std::function<void()>& ours,
              const std::function<void()>& peer);
+    /// Takes the times of works alternately: a median for each, in nanoseconds. For rows of more than two.
+    [[nodiscard]] static std::vector<double> Times(const std::vector<std::function<void()>>& works);
+    /// Prints a row whose figures come from `Times`, and keeps it.
+    void Add(Result result);
     /// True when a row of that name will be measured; for rows whose preparation is expensive.
     [[nodiscard]] bool Wants(const std::string& name) const;
     [[nodiscard]] const std::vector<Result>& Results() const { return FResults; }

@@ -170,13 +170,33 @@ TForm& MakeForm() {
     return form;
 }
 
+/// The least that any control with a scroll bar costs: a window of the system without content, whose scroll
+/// bar gets its range before it shows, so that it is painted once.
+void ShowEmptyWindow(HWND parent) {
+    static constexpr wchar_t Class[] = L"BenchEmptyWindow";
+    static const ATOM registered = [] {
+        WNDCLASSW looks{};
+        looks.lpfnWndProc = ::DefWindowProcW;
+        looks.lpszClassName = Class;
+        looks.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1);
+        return ::RegisterClassW(&looks);
+    }();
+    bench::Use(&registered);
+    const HWND window = ::CreateWindowExW(0, Class, L"", WS_CHILD | WS_VSCROLL, 0, 0, Width, Height, parent,
+                                          nullptr, nullptr, nullptr);
+    const SCROLLINFO range{sizeof range, SIF_RANGE | SIF_PAGE | SIF_POS, 0, 50 * Height, Height, 0, 0};
+    ::SetScrollInfo(window, SB_VERT, &range, TRUE);
+    ::ShowWindow(window, SW_SHOWNA);
+    ::UpdateWindow(window);
+    ::DestroyWindow(window);
+}
+
 void MeasureBuilding(bench::Runner& runner, int groups, const std::string& size, bench::Aim aim) {
     const std::string name = "explorer bar of " + size + ": build and first paint";
     if (!runner.Wants(name)) return;
     TForm& form = MakeForm();
     TTreeScene tree(form.GetHandle());
-    runner.Row(
-        name, "the system's tree view", aim,
+    const std::vector<double> times = bench::Runner::Times({
         [&] {
             auto* bar = new TQV7SkinExplorerBar(nullptr);
             bar->SetAnimate(false);
@@ -190,10 +210,16 @@ void MeasureBuilding(bench::Runner& runner, int groups, const std::string& size,
             bar->EndUpdate();
             bar->Free();
         },
+        [&] { ShowEmptyWindow(form.GetHandle()); },
         [&] {
             tree.Open(groups);
             tree.Close();
-        });
+        },
+    });
+    const std::string peer = "the system's tree view";
+    runner.Add({name, peer, aim, times[0], times[2]});
+    runner.Add({name + ", an empty window alone", peer, {}, times[1], times[2]});
+    runner.Add({name + ", beyond an empty window", peer, aim, times[0] - times[1], times[2]});
     form.Free();
 }
 
