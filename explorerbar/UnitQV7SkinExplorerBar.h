@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "explorerbar/groups/FrameTimer.h"
 #include "platform/vcl/controls/ScrollingWinControl.h"
 #include "platform/vcl/graphics/Color.h"
 #include "skin/Namespace.h"
@@ -9,7 +10,6 @@
 namespace vcl {
 class TBitmap;
 class TCustomImageList;
-class TTimer;
 }  // namespace vcl
 
 namespace qv7skin {
@@ -129,8 +129,9 @@ protected:
 
 private:
     // layout
-    bool SwitchScrollBar();
-    void LayOutGroups();
+    [[nodiscard]] int MeasureGroups(int Width, int Limit);
+    [[nodiscard]] bool MeasureContent();
+    [[nodiscard]] bool HasRightScrollBar() const;
     [[nodiscard]] bool IsAnyClosing() const;
     [[nodiscard]] bool IsCovered() const;
     // painting
@@ -153,7 +154,7 @@ private:
     TCustomImageList* FGroupIcons = nullptr;
     TCustomImageList* FItemIcons = nullptr;
     TScrolledPaintBox* FPaintBox = nullptr;
-    std::unique_ptr<TTimer> FAnimTimer;
+    TFrameTimer FAnimTimer;
     int FAnimFrame = 0;
     std::unique_ptr<TQV7SkinExplorerBarFocus> FFocus;
     int FLastWidth = 218;

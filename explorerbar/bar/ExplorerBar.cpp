@@ -6,7 +6,6 @@
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/ImageList.h"
-#include "platform/vcl/stdctrls/Timer.h"
 #include "skin/surfaces/ScrolledPaintBox.h"
 
 namespace qv7skin {
@@ -62,10 +61,6 @@ TQV7SkinExplorerBar::TQV7SkinExplorerBar(TComponent* AOwner) : TScrollingWinCont
     FPaintBox->OnMouseMove = {this, &TQV7SkinExplorerBar::PbMouseMove};
     FPaintBox->OnMouseUp = {this, &TQV7SkinExplorerBar::PbMouseUp};
     FGroups = std::make_unique<TQV7SkinExplorerGroups>(*this);
-    FAnimTimer = std::make_unique<TTimer>(nullptr);
-    FAnimTimer->SetEnabled(false);
-    FAnimTimer->SetInterval(30);
-    FAnimTimer->OnTimer = {this, &TQV7SkinExplorerBar::Timer};
     SetSkin();
     FFocus = std::make_unique<TQV7SkinExplorerBarFocus>(*this);
 }
@@ -75,9 +70,12 @@ TQV7SkinExplorerBar::~TQV7SkinExplorerBar() {
     FUpdating = true;
     HotObject = nullptr;
     FFocus.reset();
-    FAnimTimer.reset();
+    FAnimTimer.Stop();
     FGroups.reset();
-    FPaintBox->Free();
+    // It goes with the other children, and its window with the bar's.
+    FPaintBox->OnFFPaint.Clear();
+    FPaintBox->OnMouseMove.Clear();
+    FPaintBox->OnMouseUp.Clear();
 }
 
 void TQV7SkinExplorerBar::SetSkin() {

@@ -1,14 +1,16 @@
+#include <algorithm>
 #include <limits>
 
 #include "explorerbar/UnitQV7SkinExplorerBar.h"
 #include "explorerbar/UnitQV7SkinExplorerGroups.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Canvas.h"
-#include "platform/vcl/stdctrls/Timer.h"
 #include "skin/surfaces/ScrolledPaintBox.h"
 
 namespace qv7skin {
 namespace {
+
+constexpr int Unlimited = std::numeric_limits<int>::max();
 
 /// Whether all groups that show have the width.
 bool HaveWidth(const TQV7SkinExplorerGroups& groups, int width) {
@@ -27,27 +29,56 @@ bool TQV7SkinExplorerBar::IsAnyClosing() const {
     return false;
 }
 
+/// Measures the groups for a width, as long as they are not higher than the limit; returns how high they are.
+int TQV7SkinExplorerBar::MeasureGroups(int Width, int Limit) {
+    TBitmap& buffer = FPaintBox->GetBuffer();
+    int position = 1;
+    for (int i = 0; i < FGroups->GetCount() && position <= Limit; ++i) {
+        TQV7SkinExplorerGroup& group = *(*FGroups)[i];
+        if (!group.GetVisible()) continue;
+        group.SetWidth(Width);
+        group.Measure(buffer, position);
+    }
+    return position;
+}
+
+/// Finds the height of the content, and whether it needs the scroll bar, for the width that is left then: so
+/// the system hears of the scroll bar once, with its final range.
+bool TQV7SkinExplorerBar::MeasureContent() {
+    const int room = GetClientHeight();
+    const TControlScrollBar& bar = GetVertScrollBar();
+    // Without a window the scroll bar takes no room.
+    const int barWidth = HandleAllocated() ? ::GetSystemMetrics(SM_CXVSCROLL) : 0;
+    const int wide = GetClientWidth() + (bar.IsScrollBarVisible() ? barWidth : 0);
+    const int narrow = wide - barWidth;
+    if (bar.GetVisible()) {
+        FContentHeight = MeasureGroups(narrow, Unlimited);
+        if (FContentHeight > room || IsAnyClosing()) return true;
+    }
+    const int withoutBar = MeasureGroups(wide, barWidth > 0 ? room : Unlimited);
+    if (withoutBar <= room || barWidth == 0) {
+        FContentHeight = withoutBar;
+        return withoutBar > room;
+    }
+    // Pictures that are scaled to the width may fit beside the scroll bar only. It stays then.
+    FContentHeight = std::max(MeasureGroups(narrow, Unlimited), room + 1);
+    return true;
+}
+
 void TQV7SkinExplorerBar::Measure() {
-    if (FMeasuring) return;
+    if (FMeasuring || FUpdating) return;
     FMeasuring = true;
     const TLifeGuard guard(*this);
     FPaintBox->ReAssignBufferFont();
-    TBitmap& buffer = FPaintBox->GetBuffer();
-    // When it is clear that the scroll bar has to come, all is measured for the width that it leaves.
-    const bool mayCome = !FUpdating && HandleAllocated() && !GetVertScrollBar().GetVisible();
-    const int limit = mayCome ? GetClientHeight() : std::numeric_limits<int>::max();
-    int position = 1;
-    for (int i = 0; i < FGroups->GetCount() && position <= limit; ++i)
-        if ((*FGroups)[i]->GetVisible()) (*FGroups)[i]->Measure(buffer, position);
+    const bool needsBar = MeasureContent();
     // The scroll range does not shrink under a closing group.
     const int room = GetClientHeight() - 1;
-    FContentHeight = position;
-    FPaintBox->SetHeight(IsAnyClosing() && position < room ? room : position);
-    if (!guard.IsAlive()) return;
-    const bool switched = !FUpdating && SwitchScrollBar();
+    FPaintBox->SetHeight(IsAnyClosing() && FContentHeight < room ? room : FContentHeight);
+    if (guard.IsAlive()) GetVertScrollBar().SetVisible(needsBar);
     if (!guard.IsAlive()) return;
     FMeasuring = false;
-    if (switched) LayOutGroups();
+    // The system may have taken another width for it than it told.
+    if (!HaveWidth(*FGroups, GetClientWidth())) Measure();
 }
 
 void TQV7SkinExplorerBar::GroupSlid() {
@@ -63,23 +94,10 @@ void TQV7SkinExplorerBar::GroupSlid() {
     Repaint();
 }
 
-/// Shows the scroll bar when the content does not fit, and takes it away when it does; true when it did.
-bool TQV7SkinExplorerBar::SwitchScrollBar() {
-    TControlScrollBar& bar = GetVertScrollBar();
+/// Whether the scroll bar shows when the content does not fit, and only then. While a group closes it stays.
+bool TQV7SkinExplorerBar::HasRightScrollBar() const {
     const bool fits = FContentHeight <= GetClientHeight();
-    if (bar.GetVisible() != fits) return false;
-    if (fits && IsAnyClosing()) return false;
-    bar.SetVisible(!fits);
-    return true;
-}
-
-/// The width for the groups changed.
-void TQV7SkinExplorerBar::LayOutGroups() {
-    for (int i = 0; i < FGroups->GetCount(); ++i) {
-        TQV7SkinExplorerGroup& group = *(*FGroups)[i];
-        if (group.GetVisible()) group.SetWidth(GetClientWidth());
-    }
-    Measure();
+    return GetVertScrollBar().GetVisible() != fits || (fits && IsAnyClosing());
 }
 
 bool TQV7SkinExplorerBar::HoldsScrollBar(TScrollBarKind kind) const {
@@ -90,9 +108,8 @@ void TQV7SkinExplorerBar::Resize() {
     const TLifeGuard guard(*this);
     TScrollingWinControl::Resize();
     if (!guard.IsAlive() || !FGroups || FUpdating) return;
-    bool changed = !FMeasuring && SwitchScrollBar();
     // A scroll bar that was switched on before there was a window takes its room only now.
-    changed = changed || (!FMeasuring && !HaveWidth(*FGroups, GetClientWidth()));
+    bool changed = !FMeasuring && !(HasRightScrollBar() && HaveWidth(*FGroups, GetClientWidth()));
     if (GetWidth() != FLastWidth) {
         FLastWidth = GetWidth();
         FPaintBox->SetWidth(FLastWidth);
@@ -102,7 +119,7 @@ void TQV7SkinExplorerBar::Resize() {
     FPaintBox->FollowParent();
     if (!guard.IsAlive() || !changed) return;
     NeedsMeasure = false;
-    LayOutGroups();
+    Measure();
     if (guard.IsAlive()) Repaint();
 }
 
@@ -172,8 +189,8 @@ void TQV7SkinExplorerBar::ShowAnimate() {
         NeedsMeasure = false;
         Measure();
     }
-    FAnimTimer->SetEnabled(true);
-    Timer(FAnimTimer.get());
+    FAnimTimer.Start({this, &TQV7SkinExplorerBar::Timer});
+    Timer(this);
 }
 
 void TQV7SkinExplorerBar::Timer(TObject*) {
@@ -184,7 +201,7 @@ void TQV7SkinExplorerBar::Timer(TObject*) {
         FPaintBox->ApplyDeform(1, t, t * t);
         return;
     }
-    FAnimTimer->SetEnabled(false);
+    FAnimTimer.Stop();
     FPaintBox->NoDeform();
 }
 

@@ -43,47 +43,49 @@ TObject* TQV7SkinExplorerBar::GetHotArea() {
     return GetHotArea(point.X, point.Y);
 }
 
-/// Rows of a group: those of its header or of one of its items. They outlive the object; the group is
-/// watched.
+/// What looks different when the mouse comes or goes: a group's header, or the hot columns of one of its
+/// items. It outlives the object; the group is watched.
 class TQV7SkinExplorerBar::TPlace {
 public:
     explicit TPlace(TObject* object) {
         if (auto* group = AsGroup(object)) {
-            Set(group, group->HeaderRect().Top, group->HeaderRect().Bottom);
+            Set(group, group->HeaderRect());
         } else if (auto* item = AsItem(object); item && item->GetOwner()) {
             const auto [top, bottom] = item->GetOwner()->RowsOf(*item);
-            Set(item->GetOwner(), top, bottom);
+            const TColumns columns = item->HotColumns(item->GetOwner()->GetWidth());
+            Set(item->GetOwner(), {columns.Left, top, columns.Right, bottom});
         }
     }
     [[nodiscard]] TQV7SkinExplorerGroup* Group() const {
         return FGroup && FGuard->IsAlive() ? FGroup : nullptr;
     }
-    [[nodiscard]] TRowSpan Rows() const { return FRows; }
-    /// Takes in the rows of a neighbour in the same group; false when it is none.
+    [[nodiscard]] const TRect& Rect() const { return FRect; }
+    /// Takes in a neighbour in the same group; false when it is none.
     bool Join(const TPlace& other) {
         if (!Group() || other.Group() != Group()) return false;
-        if (other.FRows.Top > FRows.Bottom || other.FRows.Bottom < FRows.Top) return false;
-        FRows = {std::min(FRows.Top, other.FRows.Top), std::max(FRows.Bottom, other.FRows.Bottom)};
+        if (other.FRect.Top > FRect.Bottom || other.FRect.Bottom < FRect.Top) return false;
+        FRect = {std::min(FRect.Left, other.FRect.Left), std::min(FRect.Top, other.FRect.Top),
+                 std::max(FRect.Right, other.FRect.Right), std::max(FRect.Bottom, other.FRect.Bottom)};
         return true;
     }
 
 private:
-    void Set(TQV7SkinExplorerGroup* group, int top, int bottom) {
+    void Set(TQV7SkinExplorerGroup* group, const TRect& rect) {
         FGroup = group;
         FGuard.emplace(*group);
-        FRows = {top, bottom};
+        FRect = rect;
     }
     TQV7SkinExplorerGroup* FGroup = nullptr;
     std::optional<TLifeGuard> FGuard;
-    TRowSpan FRows;
+    TRect FRect;
 };
 
 void TQV7SkinExplorerBar::RepaintPlace(const TPlace& Place) {
     TQV7SkinExplorerGroup* group = Place.Group();
-    if (!group || group->GetExBar() != this) return;
+    if (FUpdating || !group || group->GetExBar() != this) return;
     const TLifeGuard guard(*this);
     FPaintedAlone = group;
-    FPaintBox->RepaintPart({0, Place.Rows().Top, group->GetWidth(), Place.Rows().Bottom});
+    FPaintBox->RepaintPart(Place.Rect());
     if (guard.IsAlive()) FPaintedAlone = nullptr;
 }
 

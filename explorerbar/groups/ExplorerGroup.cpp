@@ -6,19 +6,11 @@
 #include "explorerbar/groups/ExplorerSkin.h"
 #include "explorerbar/items/ExplorerItemList.h"
 #include "platform/vcl/graphics/Bitmap.h"
-#include "platform/vcl/stdctrls/Timer.h"
 
 namespace qv7skin {
 
 TQV7SkinExplorerGroup::TQV7SkinExplorerGroup(TQV7SkinExplorerBar* ExBar)
-    : FSkin(TExplorerSkin::Shared()),
-      FExBar(ExBar),
-      FItems(std::make_unique<TQV7SkinExplorerItems>(this)),
-      FTimer(std::make_unique<TTimer>(nullptr)) {
-    FTimer->SetEnabled(false);
-    FTimer->SetInterval(30);
-    FTimer->OnTimer = {this, &TQV7SkinExplorerGroup::Timer};
-}
+    : FSkin(TExplorerSkin::Shared()), FExBar(ExBar), FItems(std::make_unique<TQV7SkinExplorerItems>(this)) {}
 
 TQV7SkinExplorerGroup::~TQV7SkinExplorerGroup() {
     // Items tell the group that they go; it must be whole then.

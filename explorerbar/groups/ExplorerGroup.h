@@ -4,7 +4,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "platform/vcl/core/Events.h"
+#include "explorerbar/groups/FrameTimer.h"
 #include "platform/vcl/core/Geometry.h"
 #include "platform/vcl/core/LifeGuard.h"
 #include "platform/vcl/core/Object.h"
@@ -15,7 +15,6 @@
 namespace vcl {
 class TBitmap;
 class TCanvas;
-class TTimer;
 }  // namespace vcl
 
 namespace qv7skin {
@@ -166,7 +165,7 @@ private:
     std::unique_ptr<TQV7SkinExplorerItems> FItems;
     bool FSpecialGroup = false;
     TExplorerGroupState FState = egsOpen;
-    std::unique_ptr<TTimer> FTimer;
+    TFrameTimer FTimer;
     String FTitle;
     TRect FHeaderRect;
     TRect FBodyRect;

@@ -101,6 +101,10 @@ int TQV7SkinExplorerGroup::CalcBlockOffset(TBitmap& Bitmap, int Width, int) cons
 // --- where items are painted
 
 int TQV7SkinExplorerGroup::IndexOf(const TQV7SkinExplorerItemCustom& Item) const {
+    // What was painted stands where it was painted, mostly.
+    const auto painted = std::ranges::upper_bound(FBottoms, Item.ClipRect().Top - FItemsTop);
+    const auto place = static_cast<int>(painted - FBottoms.begin());
+    if (place < FItems->GetCount() && (*FItems)[place] == &Item) return place;
     const int index = FItems->IndexOf(&Item);
     return index < static_cast<int>(FBottoms.size()) ? index : -1;
 }

@@ -2,7 +2,6 @@
 
 #include "explorerbar/UnitQV7SkinExplorerBar.h"
 #include "explorerbar/groups/ExplorerGroup.h"
-#include "platform/vcl/stdctrls/Timer.h"
 
 namespace qv7skin {
 
@@ -43,11 +42,11 @@ void TQV7SkinExplorerGroup::StartSlide(bool Opening) {
     FMaxStep = step;
     FStep = Opening ? FMaxStep - 1 : 0;
     FState = Opening ? egsOpening : egsClosing;
-    FTimer->SetEnabled(true);
+    FTimer.Start({this, &TQV7SkinExplorerGroup::Timer});
 }
 
 void TQV7SkinExplorerGroup::StopSlide(TExplorerGroupState State) {
-    FTimer->SetEnabled(false);
+    FTimer.Stop();
     FState = State;
 }
 

@@ -20,6 +20,12 @@ namespace qv7skin {
 class TQV7SkinExplorerBar;
 class TQV7SkinExplorerGroup;
 
+/// Columns of pixels from `Left` up to, without, `Right`.
+struct TColumns {
+    int Left = 0;
+    int Right = 0;
+};
+
 /// What a group of an explorer bar holds: an object that has no window, paints itself at a running position
 /// and hears of mouse and keyboard through the bar. The item list of its group owns it.
 ///
@@ -88,6 +94,10 @@ public:
     /// Whether `Draw` moves `Top` exactly as `Measure` does. A kind that answers false has `Place` leave a
     /// `ClipRect` whose bottom is where `Draw` would end.
     [[nodiscard]] virtual bool PaintsAsMeasured() const { return true; }
+    /// The columns in which `Draw` paints something else while the mouse is over the item, out of a group of
+    /// that width: all of them, unless a kind knows better. The bar repaints no others when the mouse comes
+    /// or goes.
+    [[nodiscard]] virtual TColumns HotColumns(int Width) const { return {0, Width}; }
     /// What Return does on the item: it clicks it.
     virtual void ReturnPressed() { Click(); }
     /// True for the kind that a group leaves out where it would separate nothing.

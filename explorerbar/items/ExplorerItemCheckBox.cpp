@@ -68,8 +68,8 @@ void TQV7SkinExplorerItemCheckBox::Measure(TBitmap& Bitmap, int& Left, int& Top,
     const int start = Top;
     if (lineHeight < glyph.Height) Top += (glyph.Height - lineHeight) / 2;
     // Without the 7 pixels between box and caption: measuring allows for rows that much longer.
-    ForEachRow(canvas, GetCaption(), GroupWidth(Width) - glyph.Width + Left - 10,
-               [&](const TTextRow&) { Top += lineHeight + 1; });
+    const int limit = GroupWidth(Width) - glyph.Width + Left - 10;
+    Top += CountRows(canvas, GetCaption(), limit) * (lineHeight + 1);
     Top = std::max(Top, start + glyph.Height);
 }
 

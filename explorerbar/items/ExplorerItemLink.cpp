@@ -123,15 +123,25 @@ void TQV7SkinExplorerItemLink::Run(TBitmap& Bitmap, int Left, int& Top, int Widt
         widest = std::max(widest, row.Width);
         Top += lineHeight + 1;
     };
-    if (FWordWrap)
-        ForEachRow(canvas, FCaption, groupWidth - indent + Left - 10, use);
+    const int limit = groupWidth - 10 - indent;
+    if (Pass == TPass::Measure)
+        Top += (FWordWrap ? CountRows(canvas, FCaption, limit + Left) : 1) * (lineHeight + 1);
+    else if (FWordWrap)
+        ForEachRow(canvas, FCaption, limit + Left, use);
     else
-        use(CutRow(canvas, FCaption, groupWidth - 10 - indent));
+        use(CutRow(canvas, FCaption, limit));
     if (icon.Height > 0) Top = std::max(Top, iconTop + icon.Height + 2);
 
     const int textRight = Left + indent + widest;
     if (Pass != TPass::Measure) FClipRect = {Left + 5, start, FWordWrap ? textRight : groupWidth - 5, Top};
     if (painting && IsFocused()) DrawFocusRect(canvas, {Left + indent, start, textRight, Top});
+}
+
+TColumns TQV7SkinExplorerItemLink::HotColumns(int Width) const {
+    if (FClipRect.IsEmpty()) return {0, Width};
+    // Slanted letters may reach beyond the text.
+    const int margin = FClipRect.Height();
+    return {std::max(FClipRect.Left - margin, 0), std::min(FClipRect.Right + margin, Width)};
 }
 
 void TQV7SkinExplorerItemLink::Draw(TBitmap& Bitmap, int& Left, int& Top, int& Width) {

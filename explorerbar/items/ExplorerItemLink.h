@@ -40,6 +40,8 @@ public:
     void Draw(TBitmap& Bitmap, int& Left, int& Top, int& Width) override;
     void Measure(TBitmap& Bitmap, int& Left, int& Top, int& Width) override;
     void Place(TBitmap& Bitmap, int Left, int Top, int Width) override;
+    /// Those of icon and caption.
+    [[nodiscard]] TColumns HotColumns(int Width) const override;
     /// Has the bar measure anew.
     void SetOwner(TQV7SkinExplorerGroup* Group) override;
     [[nodiscard]] bool GetCanFocus() const override { return FVisible; }

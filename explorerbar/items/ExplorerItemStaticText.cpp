@@ -15,16 +15,16 @@ void TQV7SkinExplorerItemStaticText::Run(TCanvas& Canvas, int Left, int& Top, in
     if (Painting) Canvas.GetBrush().SetStyle(bsClear);
     const int lineHeight = LineHeight(Canvas);
     const auto use = [&](const TTextRow& row) {
-        if (Painting) row.Draw(Canvas, Left + 5, Top);
+        row.Draw(Canvas, Left + 5, Top);
         Top += lineHeight + 1;
     };
     const int limit = GroupWidth(Width) - 10;
-    if (FWordWrap)
+    if (!Painting)
+        Top += (FWordWrap ? CountRows(Canvas, FCaption, limit) : 1) * (lineHeight + 1);
+    else if (FWordWrap)
         ForEachRow(Canvas, FCaption, limit, use);
-    else if (Painting)
-        use(CutRow(Canvas, FCaption, limit));
     else
-        Top += lineHeight + 1;
+        use(CutRow(Canvas, FCaption, limit));
     font.SetStyle(style);
     font.SetColor(color);
 }

@@ -1,8 +1,6 @@
 #include "explorerbar/items/ItemText.h"
 
 #include <algorithm>
-#include <array>
-#include <memory>
 #include <vector>
 
 #include "platform/vcl/graphics/Canvas.h"
@@ -76,22 +74,6 @@ TPiece DecidingPiece(TCanvas& canvas, StringView text, int maxWidth) {
 
 }  // namespace
 
-int LineHeight(TCanvas& Canvas) {
-    // The last fonts asked for, without keeping them alive: items under the mouse and others alternate.
-    struct TKnown {
-        std::weak_ptr<const TFontHandle> Font;
-        int Height = 0;
-    };
-    static std::array<TKnown, 4> known;
-    static std::size_t oldest = 0;
-    const TSharedFont& font = Canvas.GetFont().GetShared();
-    for (const TKnown& entry : known)
-        if (!entry.Font.owner_before(font) && !font.owner_before(entry.Font)) return entry.Height;
-    TKnown& entry = known[oldest++ % known.size()];
-    entry = {font, Canvas.TextHeight(L"A")};
-    return entry.Height;
-}
-
 void TTextRow::Draw(TCanvas& Canvas, int x, int y) const {
     if (Cut)
         Canvas.TextOut(x, y, Shown());
@@ -131,6 +113,13 @@ TTextRow NextRow(TCanvas& Canvas, StringView& Rest, int MaxWidth) {
     else
         take(lineEnd);
     return CutTo(Canvas, word, MaxWidth - 1);
+}
+
+int CountRows(TCanvas& Canvas, StringView Text, int MaxWidth) {
+    if (IsSurelyNarrower(Canvas, Text, MaxWidth)) return 1;
+    int rows = 0;
+    ForEachRow(Canvas, Text, MaxWidth, [&](const TTextRow&) { ++rows; });
+    return rows;
 }
 
 String EllipsizeText(TCanvas& Canvas, StringView Text, int MaxWidth) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "explorerbar/items/FontFacts.h"
 #include "platform/vcl/core/Strings.h"
 #include "skin/Namespace.h"
 
@@ -8,9 +9,6 @@ class TCanvas;
 }
 
 namespace qv7skin {
-
-/// The height of a row of text in the canvas' font: that of "A".
-[[nodiscard]] int LineHeight(TCanvas& Canvas);
 
 /// The text, or when it is wider than `MaxWidth` as much of its start as fits together with "..." behind it.
 /// One character is left at least.
@@ -44,5 +42,8 @@ void ForEachRow(TCanvas& Canvas, StringView Text, int MaxWidth, Use use) {
         use(row);
     } while (!Text.empty());
 }
+
+/// How many rows `ForEachRow` finds.
+[[nodiscard]] int CountRows(TCanvas& Canvas, StringView Text, int MaxWidth);
 
 }  // namespace qv7skin

@@ -156,6 +156,23 @@ TEST_F(ItemTextTest, QuickRowsAreThoseOfTheRuleToldWordByWord) {
     }
 }
 
+TEST_F(ItemTextTest, RowsAreCountedAsTheyAreSplit) {
+    static constexpr StringView letters = L"ilMW.ÄßJ\r\n\u0416\u00AD   abc";
+    RandomColors random(11);
+    for (int round = 0; round < 400; ++round) {
+        Canvas().GetFont().SetStyle(round % 3 ? TFontStyles{} : TFontStyles{fsBold, fsItalic});
+        String text;
+        for (unsigned n = random.Next(40); n > 0; --n)
+            text += letters[random.Next(static_cast<unsigned>(letters.size()))];
+        const int width = static_cast<int>(random.Next(260)) - 5;
+        const auto rows = text.empty() ? 1 : static_cast<int>(Rows(text, width).size());
+        EXPECT_EQ(CountRows(Canvas(), text, width), rows) << width;
+        EXPECT_TRUE(!IsSurelyNarrower(Canvas(), text, width) || Canvas().TextWidth(text) < width);
+    }
+    EXPECT_TRUE(IsSurelyNarrower(Canvas(), L"Dateien", 2 * Wide(L"Dateien")));
+    EXPECT_FALSE(IsSurelyNarrower(Canvas(), L"zwei\r\nZeilen", 1000)) << "it breaks a line";
+}
+
 TEST_F(ItemTextTest, LongTextsAreSplitAsShortOnes) {
     NaiveText naive(Canvas());
     String text;

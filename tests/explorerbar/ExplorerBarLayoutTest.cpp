@@ -1,0 +1,138 @@
+#include "platform/vcl/core/Ledger.h"
+#include "tests/explorerbar/ExplorerBarFixture.h"
+
+namespace qv7skin {
+namespace {
+
+using namespace probes;
+using test::PumpAll;
+
+/// An item of 20 rows that counts, and fills its rows while the mouse is over it.
+class TFlashingItem : public TQV7SkinExplorerItemCustom {
+public:
+    int Measured = 0;
+
+    void Draw(TBitmap& Bitmap, int& Left, int& Top, int& Width) override {
+        Place(Bitmap, Left, Top, Width);
+        TCanvas& canvas = Bitmap.GetCanvas();
+        canvas.GetBrush().SetStyle(bsSolid);
+        canvas.GetBrush().SetColor(IsHotArea() ? clRed : clBlue);
+        canvas.FillRect({0, Top, Width, Top + 20});
+        canvas.GetBrush().SetStyle(bsClear);
+        Top += 20;
+    }
+    void Measure(TBitmap& Bitmap, int& Left, int& Top, int& Width) override {
+        ++Measured;
+        TQV7SkinExplorerItemCustom::Measure(Bitmap, Left, Top, Width);
+    }
+};
+
+class ExplorerBarLayoutTest : public ExplorerBarTest {
+protected:
+    /// A picture that is as wide as the group and scaled to it.
+    TQV7SkinExplorerItemBmp& AddPicture(int height) {
+        const TBitmap picture(208, height, pf24bit);
+        auto* item = new TQV7SkinExplorerItemBmp(&picture);
+        item->SetAutoSize(true);
+        return AddTo(0, item);
+    }
+};
+
+TEST_F(ExplorerBarLayoutTest, WhatIsFarBelowIsMeasuredOnceForAllUpdates) {
+    Bar().BeginUpdate();
+    Bar().GetGroups().Add(L"Group", false);
+    for (int i = 0; i < 50; ++i)
+        AddTo(0, new TLink(L"Link", L""));
+    Bar().GetGroups().Add(L"Group", false);
+    auto& last = AddTo(1, new TFlashingItem);
+    Bar().EndUpdate();
+    EXPECT_TRUE(HasScrollBar());
+    EXPECT_EQ(last.Measured, 1) << "neither for the width without the scroll bar nor again";
+    EXPECT_EQ(Group(1).GetWidth(), Bar().GetClientWidth());
+    EXPECT_EQ(Bar().GetVertScrollBar().GetRange(), Bar().GetContentHeight());
+}
+
+TEST_F(ExplorerBarLayoutTest, APictureThatFitsBesideTheScrollBarOnlyKeepsIt) {
+    Bar().GetGroups().Add(L"Group", false);
+    // 19 and 1 for the header, 20 for margins, 1 above the group, 1 below the picture: 300 in all at 257.
+    auto& picture = AddPicture(270);
+    PumpAll();
+    EXPECT_TRUE(HasScrollBar());
+    EXPECT_EQ(Group(0).GetWidth(), Bar().GetClientWidth());
+    EXPECT_LT(picture.GetDisplayBitmap().GetHeight(), 257);
+    EXPECT_EQ(Bar().GetContentHeight(), Bar().GetClientHeight() + 1);
+    Bar().NeedsMeasure = true;
+    Bar().Repaint();
+    EXPECT_TRUE(HasScrollBar());
+    Bar().SetHeight(330);
+    PumpAll();
+    EXPECT_FALSE(HasScrollBar());
+    EXPECT_EQ(picture.GetDisplayBitmap().GetHeight(), 270);
+    EXPECT_EQ(Group(0).GetWidth(), 218);
+    Bar().SetHeight(300);
+    PumpAll();
+    EXPECT_TRUE(HasScrollBar());
+}
+
+TEST_F(ExplorerBarLayoutTest, MeasuringByHandDuringAnUpdateDoesNothing) {
+    Fill(1, 3);
+    const int height = Bar().GetContentHeight();
+    Bar().BeginUpdate();
+    AddTo(0, new TLink(L"more", L""));
+    Bar().Measure();
+    EXPECT_EQ(Bar().GetContentHeight(), height);
+    EXPECT_EQ(Box().GetHeight(), height);
+    Bar().EndUpdate();
+    EXPECT_EQ(Bar().GetContentHeight(), height + LineHeight() + 1);
+}
+
+TEST_F(ExplorerBarLayoutTest, TheMouseMovedDuringAnUpdatePaintsNothing) {
+    Fill(1, 3);
+    MoveTo(Item(0, 0));
+    const test::Pixels before = Shown();
+    const POINT next = OnScreen(Item(0, 1).ClipRect());
+    Bar().BeginUpdate();
+    Input.MoveTo(next);
+    EXPECT_TRUE(SamePixels(Shown(), before));
+    Bar().EndUpdate();
+    EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+}
+
+TEST_F(ExplorerBarLayoutTest, ItemsOfAllLooksAreRepaintedWholeUnderTheMouse) {
+    Fill(1, 0);
+    Bar().ItemHotTextColor = clRed;
+    Bar().BeginUpdate();
+    auto& slanted = AddTo(0, new TLink(L"slanted f", L""));
+    slanted.SetFontStyle({fsItalic, fsBold});
+    auto& ticked = AddTo(0, new TCheck(L"ticked", 0, L"", true, true, true));
+    auto& wrapped = AddTo(0, new TLink(L"a text that is too long for one row of this bar", L""));
+    auto& cut = AddTo(0, new TLink(L"a text that is too long for one row of this bar", L""));
+    cut.SetWordWrap(false);
+    auto& pair = AddTo(0, new TQV7SkinExplorerItemCaptionValuePair(L"caption", true, L"value far away", L""));
+    auto& block = AddTo(0, new TQV7SkinExplorerItemCaptionBlockPair(L"caption", true, L"block"));
+    auto& flashing = AddTo(0, new TFlashingItem);
+    Bar().EndUpdate();
+    Bar().SetFocus();
+    for (TQV7SkinExplorerItemCustom* item : std::initializer_list<TQV7SkinExplorerItemCustom*>{
+             &slanted, &ticked, &wrapped, &cut, &pair, &block, &flashing, &slanted, &flashing}) {
+        MoveTo(*item);
+        ASSERT_EQ(Bar().HotObject, item);
+        EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+    }
+}
+
+TEST_F(ExplorerBarLayoutTest, ATimerRunsOnlyWhileSomethingMoves) {
+    const auto timers = [] { return TLedger::Snapshot()["timer"]; };
+    const long before = timers();
+    Fill(3, 3);
+    EXPECT_EQ(timers(), before);
+    Bar().SetAnimate(true);
+    Group(0).OpenClose();
+    Bar().ShowAnimate();
+    EXPECT_EQ(timers(), before + (TLedger::IsActive() ? 2 : 0));
+    ASSERT_TRUE(test::PumpUntil([&] { return Group(0).GetState() == egsClosed && !Box().GetDeformed(); }));
+    EXPECT_EQ(timers(), before);
+}
+
+}  // namespace
+}  // namespace qv7skin
