@@ -78,7 +78,8 @@ public:
     /// The height that the last measuring found, in pixels.
     [[nodiscard]] int GetContentHeight() const { return FContentHeight; }
 
-    /// Between the two nothing is measured or painted; the last `EndUpdate` does both.
+    /// Between the two nothing is measured or painted; the last `EndUpdate` does both. A bar that comes into
+    /// sight meanwhile is shown by `EndUpdate` too.
     void BeginUpdate();
     void EndUpdate();
     [[nodiscard]] bool IsUpdating() const { return FUpdating; }
@@ -134,6 +135,9 @@ private:
     [[nodiscard]] bool HasRightScrollBar() const;
     [[nodiscard]] bool IsAnyClosing() const;
     [[nodiscard]] bool IsCovered() const;
+    // showing
+    [[nodiscard]] bool ShowsLater();
+    void ShowWindowNow();
     // painting
     void PaintBuffer(TObject* Sender, TBitmap* Buffer);
     void DrawGroups(TBitmap& Buffer);
@@ -149,6 +153,7 @@ private:
 
     int FUpdateCount = 0;
     bool FUpdating = false;
+    bool FShowsLater = false;
     bool FAnimate = true;
     std::unique_ptr<TQV7SkinExplorerGroups> FGroups;
     TCustomImageList* FGroupIcons = nullptr;

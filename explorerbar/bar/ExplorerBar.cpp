@@ -1,5 +1,7 @@
 #include "explorerbar/UnitQV7SkinExplorerBar.h"
 
+#include <utility>
+
 #include "explorerbar/UnitQV7SkinExplorerBarFocus.h"
 #include "explorerbar/UnitQV7SkinExplorerGroups.h"
 #include "explorerbar/items/ExplorerItem.h"
@@ -148,7 +150,27 @@ void TQV7SkinExplorerBar::EndUpdate() {
     FUpdating = false;
     NeedsMeasure = true;
     FLastWidth = -1;
-    Resize();
+    const TLifeGuard guard(*this);
+    try {
+        Resize();
+    } catch (...) {
+        if (guard.IsAlive()) ShowWindowNow();
+        throw;
+    }
+    if (guard.IsAlive()) ShowWindowNow();
+}
+
+/// A window that is to appear during an update waits for its end: then the system paints its frame once, with
+/// the scroll bar.
+bool TQV7SkinExplorerBar::ShowsLater() {
+    return FShowsLater = FUpdating && GetShowing();
+}
+
+void TQV7SkinExplorerBar::ShowWindowNow() {
+    if (!std::exchange(FShowsLater, false)) return;
+    const TLifeGuard guard(*this);
+    Perform(CM_SHOWINGCHANGED);
+    if (guard.IsAlive()) FPaintBox->Update();
 }
 
 // --- keyboard
@@ -179,6 +201,7 @@ void TQV7SkinExplorerBar::KeyDown(WORD& key, TShiftState shift) {
 }
 
 void TQV7SkinExplorerBar::Dispatch(TMessage& message) {
+    if (message.Msg == CM_SHOWINGCHANGED && ShowsLater()) return;
     const TLifeGuard guard(*this);
     TScrollingWinControl::Dispatch(message);
     if (!guard.IsAlive()) return;

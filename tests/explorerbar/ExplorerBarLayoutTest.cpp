@@ -1,4 +1,5 @@
 #include "platform/vcl/core/Ledger.h"
+#include "platform/vcl/core/MathErrors.h"
 #include "tests/explorerbar/ExplorerBarFixture.h"
 
 namespace qv7skin {
@@ -84,6 +85,41 @@ TEST_F(ExplorerBarLayoutTest, MeasuringByHandDuringAnUpdateDoesNothing) {
     EXPECT_EQ(Box().GetHeight(), height);
     Bar().EndUpdate();
     EXPECT_EQ(Bar().GetContentHeight(), height + LineHeight() + 1);
+}
+
+TEST_F(ExplorerBarLayoutTest, ABarThatComesDuringAnUpdateShowsAtItsEnd) {
+    auto* bar = new TQV7SkinExplorerBar(nullptr);
+    const auto isSeen = [&] { return ::IsWindowVisible(bar->GetHandle()) != FALSE; };
+    bar->BeginUpdate();
+    auto* group = bar->GetGroups().Add(L"Group", false);
+    for (int i = 0; i < 30; ++i)
+        group->GetItems().Add(new TLink(L"Link", L""));
+    Bar().SetVisible(false);
+    bar->SetParent(&Form());
+    EXPECT_FALSE(isSeen());
+    bar->EndUpdate();
+    EXPECT_TRUE(isSeen());
+    const test::Pixels atOnce = test::ReadClient(bar->GetHandle());
+    EXPECT_TRUE(SamePixels(atOnce, test::ReadBitmap(bar->GetPaintBox().GetBuffer().GetHandle())
+                                       .Part({0, 0, bar->GetClientWidth(), bar->GetClientHeight()})));
+    bar->BeginUpdate();
+    EXPECT_TRUE(isSeen()) << "one that is seen stays so";
+    bar->SetVisible(false);
+    EXPECT_FALSE(isSeen());
+    bar->SetVisible(true);
+    EXPECT_FALSE(isSeen());
+    bar->SetVisible(false);
+    bar->EndUpdate();
+    EXPECT_FALSE(isSeen()) << "the last word counts";
+    bar->BeginUpdate();
+    bar->SetVisible(true);
+    group->GetItems().Add(new TQV7SkinExplorerItemProgressBar);
+    group->GetItems().Move(30, 0);
+    EXPECT_THROW(bar->EndUpdate(), EZeroDivide) << "a progress bar without a range can't be painted";
+    EXPECT_TRUE(isSeen());
+    EXPECT_EQ(Errors.size(), 1U) << "painted again as it showed";
+    Errors.clear();
+    bar->Free();
 }
 
 TEST_F(ExplorerBarLayoutTest, TheMouseMovedDuringAnUpdatePaintsNothing) {
