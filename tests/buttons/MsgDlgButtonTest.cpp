@@ -3,6 +3,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Font.h"
 #include "tests/buttons/MsgDlgButtonFixture.h"
+#include "tests/support/FilledBitmap.h"
 
 namespace test {
 namespace {
@@ -234,9 +235,7 @@ TEST_F(MsgDlgButtonTest, ImagesStandBehindTheMarginWithoutTheirMagenta) {
 
 TEST_F(MsgDlgButtonTest, MaskedImagesKeepTheirHoles) {
     MakeImages(0);
-    TBitmap image(16, 16, pf24bit);
-    image.GetCanvas().GetBrush().SetColor(clGreen);
-    image.GetCanvas().FillRect({0, 0, 16, 16});
+    FilledBitmap image(16, 16, clGreen);
     image.GetCanvas().GetBrush().SetColor(clYellow);
     image.GetCanvas().FillRect({4, 4, 12, 12});
     Images->AddMasked(&image, clGreen);
@@ -269,9 +268,7 @@ TEST_F(MsgDlgButtonTest, AListOfThreeLendsThePressedImageToAButtonThatIsOn) {
 TEST_F(MsgDlgButtonTest, ChangedImagesShow) {
     MakeImages(4);
     EXPECT_EQ(Shown().At(3 + 8, 30), ImageColor(0));
-    TBitmap image(16, 16, pf24bit);
-    image.GetCanvas().GetBrush().SetColor(clRed);
-    image.GetCanvas().FillRect({0, 0, 16, 16});
+    FilledBitmap image(16, 16, clRed);
     Images->Replace(0, &image, nullptr);
     EXPECT_EQ(Shown().At(3 + 8, 30), RGB(255, 0, 0));
 }

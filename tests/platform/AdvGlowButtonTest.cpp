@@ -1,6 +1,7 @@
 #include "platform/tms/AdvGlowButton.h"
 
 #include "platform/tms/GlowFace.h"
+#include "tests/support/FilledBitmap.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -106,9 +107,7 @@ TEST_F(AdvGlowButton, TheCaptionStandsInTheMiddle) {
 }
 
 TEST_F(AdvGlowButton, ThePictureStandsWhereTheLayoutSays) {
-    TBitmap picture(8, 8);
-    picture.GetCanvas().GetBrush().SetColor(clRed);
-    picture.GetCanvas().FillRect({0, 0, 8, 8});
+    test::FilledBitmap picture(8, 8, clRed, pfDevice);
     Button->Picture().SetBitmap(&picture);
     Button->SetBounds(50, 40, 120, 61);
     Button->SetCaption(L"Text");
@@ -126,9 +125,7 @@ TEST_F(AdvGlowButton, ThePictureStandsWhereTheLayoutSays) {
 }
 
 TEST_F(AdvGlowButton, ADisabledPictureIsHalfFaded) {
-    TBitmap picture(8, 8);
-    picture.GetCanvas().GetBrush().SetColor(clRed);
-    picture.GetCanvas().FillRect({0, 0, 8, 8});
+    test::FilledBitmap picture(8, 8, clRed, pfDevice);
     Button->Picture().SetBitmap(&picture);
     Button->SetEnabled(false);
     PumpAll();

@@ -1,5 +1,6 @@
 #include "platform/velmora/ButtonExWithCaption.h"
 
+#include "tests/support/FilledBitmap.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -109,9 +110,7 @@ TEST_F(ButtonEx, AnEmptyListLeavesAPushButton) {
 TEST_F(ButtonEx, FollowsChangesOfItsImages) {
     Button->SetImageList(Images);
     PumpAll();
-    TBitmap image(10, 10);
-    image.GetCanvas().GetBrush().SetColor(clLime);
-    image.GetCanvas().FillRect({0, 0, 10, 10});
+    test::FilledBitmap image(10, 10, clLime, pfDevice);
     Images->Replace(0, &image, nullptr);
     PumpAll();
     EXPECT_EQ(Middle(), clLime);

@@ -1,7 +1,7 @@
 #include "skin/utils/TransparentBitmap.h"
 
 #include "platform/vcl/graphics/Canvas.h"
-#include "tests/support/SkinTesting.h"
+#include "tests/skin/PictureOnGround.h"
 
 namespace qv7skin {
 namespace {
@@ -13,25 +13,7 @@ using probes::PixelsOf;
 using probes::RandomColors;
 using test::Pixels;
 
-class TransparentBitmapTest : public test::LedgerTest {
-protected:
-    /// A picture with holes, and what lies below it.
-    void SetUp() override {
-        LedgerTest::SetUp();
-        FPicture = RandomColors(1).Picture(9, 7, {Magenta, 0x00123456, 0x00FEDCBA, clBlack, clWhite});
-        FGround = RandomColors(2).Picture(20, 16);
-    }
-    /// The picture on the ground with its top left corner at (x, y), without its holes.
-    [[nodiscard]] Pixels Expected(int x0, int y0) const {
-        Pixels result = FGround;
-        for (int y = 0; y < FPicture.Height(); ++y)
-            for (int x = 0; x < FPicture.Width(); ++x)
-                if (FPicture.At(x, y) != Magenta)
-                    probes::SetInside(result, x0 + x, y0 + y, FPicture.At(x, y));
-        return result;
-    }
-    Pixels FPicture, FGround;
-};
+class TransparentBitmapTest : public probes::PictureOnGroundTest {};
 
 TEST_F(TransparentBitmapTest, TheMaskIsBlackWhereThePictureIsAndThePictureBlackWhereItIsNot) {
     for (const TPixelFormat format : {pf24bit, pf32bit, pfDevice}) {

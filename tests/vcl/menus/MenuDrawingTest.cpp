@@ -1,6 +1,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/ImageList.h"
 #include "platform/vcl/menus/MainMenu.h"
+#include "tests/support/FilledBitmap.h"
 #include "tests/support/PixelProbe.h"
 #include "tests/vcl/menus/MenuTesting.h"
 
@@ -113,11 +114,7 @@ TEST_F(MenuDrawingTest, WithoutHandlersTheSystemsColoursAreUsed) {
 TEST_F(MenuDrawingTest, ImagesStandLeftOfTheCaption) {
     Menu->SetOwnerDraw(false);
     TImageList images(nullptr);
-    TBitmap picture;
-    picture.SetPixelFormat(pf24bit);
-    picture.SetSize(16, 16);
-    picture.GetCanvas().GetBrush().SetColor(clRed);
-    picture.GetCanvas().FillRect({0, 0, 16, 16});
+    FilledBitmap picture(16, 16, clRed);
     images.Add(&picture, nullptr);
     Menu->SetImages(&images);
     Menu->GetItems().GetItem(1)->SetImageIndex(0);
@@ -164,11 +161,7 @@ TEST_F(MenuDrawingTest, AnItemShowsAPictureOfItsOwn) {
     Menu->SetOwnerDraw(false);
     TMenuItem* item = Menu->GetItems().GetItem(0);
     EXPECT_FALSE(item->IsOwnerDrawn());
-    TBitmap picture;
-    picture.SetPixelFormat(pf24bit);
-    picture.SetSize(10, 10);
-    picture.GetCanvas().GetBrush().SetColor(clRed);
-    picture.GetCanvas().FillRect({0, 0, 10, 10});
+    FilledBitmap picture(10, 10, clRed);
     picture.GetCanvas().SetPixel(0, 9, clFuchsia);
     item->SetBitmap(picture);
     EXPECT_TRUE(item->IsOwnerDrawn());

@@ -4,6 +4,7 @@
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Icon.h"
 #include "platform/vcl/graphics/Picture.h"
+#include "tests/support/FilledBitmap.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -11,15 +12,6 @@ namespace test {
 namespace {
 
 using namespace vcl;
-
-/// A bitmap of one colour.
-class Filled : public TBitmap {
-public:
-    Filled(int width, int height, TColor color) : TBitmap(width, height, pf24bit) {
-        GetCanvas().GetBrush().SetColor(color);
-        GetCanvas().FillRect({0, 0, width, height});
-    }
-};
 
 class ImageTest : public FormTest {
 protected:
@@ -63,7 +55,7 @@ TEST_F(ImageTest, PlacesThePictureByItsRules) {
 
 TEST_F(ImageTest, ShowsThePictureAndFollowsItsChanges) {
     TImage* image = MakeImage(40, 30);
-    const Filled bitmap(20, 10, clRed);
+    const FilledBitmap bitmap(20, 10, clRed);
     image->GetPicture().SetBitmap(&bitmap);
     EXPECT_TRUE(SamePixels(Picture(*image), Inside({0, 0, 20, 10}, RGB(255, 0, 0), RGB(255, 255, 255))));
     image->SetStretch(true);
@@ -75,7 +67,7 @@ TEST_F(ImageTest, ShowsThePictureAndFollowsItsChanges) {
 
 TEST_F(ImageTest, LeavesOutTheTransparentColour) {
     TImage* image = MakeImage(40, 30);
-    Filled bitmap(40, 30, clFuchsia);
+    FilledBitmap bitmap(40, 30, clFuchsia);
     bitmap.GetCanvas().GetBrush().SetColor(clGreen);
     bitmap.GetCanvas().FillRect({5, 5, 15, 15});
     image->GetPicture().SetBitmap(&bitmap);
@@ -88,7 +80,7 @@ TEST_F(ImageTest, LeavesOutTheTransparentColour) {
 TEST_F(ImageTest, IsOpaqueOnlyWhenThePictureCoversIt) {
     TImage* image = MakeImage(40, 30);
     EXPECT_FALSE(image->ControlStyle.Contains(csOpaque));
-    const Filled bitmap(40, 30, clRed);
+    const FilledBitmap bitmap(40, 30, clRed);
     image->GetPicture().SetBitmap(&bitmap);
     EXPECT_TRUE(image->ControlStyle.Contains(csOpaque));
     image->SetWidth(41);
@@ -98,7 +90,7 @@ TEST_F(ImageTest, IsOpaqueOnlyWhenThePictureCoversIt) {
 TEST_F(ImageTest, AutoSizeTakesThePicturesSize) {
     TImage* image = MakeImage(40, 30);
     image->SetAutoSize(true);
-    const Filled bitmap(23, 17, clRed);
+    const FilledBitmap bitmap(23, 17, clRed);
     image->GetPicture().SetBitmap(&bitmap);
     EXPECT_EQ(image->GetBoundsRect(), TRect::OfSize(10, 10, 23, 17));
 }
