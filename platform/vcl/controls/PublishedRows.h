@@ -93,6 +93,17 @@ inline constexpr auto WindowRows = []<class C>(TClassDefinition<C>&& table) -> T
         .Property(L"ParentDoubleBuffered", &C::GetParentDoubleBuffered, &C::SetParentDoubleBuffered, true);
 };
 
+/// What editors and lists have in common, from `PlacementRows` to `WindowRows`.
+inline constexpr auto EditorRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
+    return std::move(table)
+        .With(PlacementRows)
+        .With(WindowColorRows)
+        .With(FontRows)
+        .With(StateRows)
+        .With(TabRows)
+        .With(WindowRows);
+};
+
 /// The events of the mouse.
 inline constexpr auto MouseRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
     return std::move(table)

@@ -3,12 +3,12 @@
 // How a class writes down what it publishes, in its source file:
 //
 //     const TMetaClass& TButton::StaticClass() {
-//         static const TMetaClass meta = DefineClass<TButton>(L"TButton", TButtonControl::StaticClass())
-//             .Property(L"Caption", &TButton::GetCaption, &TButton::SetCaption, String())
-//             .Property(L"Color", &TButton::GetColor, &TButton::SetColor,
-//             clBtnFace).Identifiers(ColorIdentifiers()) .Property(L"Font", &TButton::GetFont,
-//             &TButton::SetFont).Stored(&TButton::IsFontStored) .Field(L"FocusControl",
-//             &TButton::FocusControl) .Event(L"OnClick", &TButton::OnClick);
+//         using C = TButton;
+//         static const TMetaClass meta = DefineClass<C>(L"TButton", TButtonControl::StaticClass())
+//             .Property(L"Color", &C::GetColor, &C::SetColor, clBtnFace).Identifiers(ColorIdentifiers())
+//             .Property(L"Font", &C::GetFont, &C::SetFont).Stored(&C::IsFontStored)
+//             .Field(L"FocusControl", &C::FocusControl)
+//             .Event(L"OnClick", &C::OnClick);
 //         return meta;
 //     }
 //

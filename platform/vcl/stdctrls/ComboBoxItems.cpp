@@ -76,12 +76,7 @@ const TMetaClass& TComboBox::StaticClass() {
     using C = TComboBox;
     static const TMetaClass meta =
         DefineClass<C>(L"TComboBox", TCustomComboBox::StaticClass())
-            .With(PlacementRows)
-            .With(WindowColorRows)
-            .With(FontRows)
-            .With(StateRows)
-            .With(TabRows)
-            .With(WindowRows)
+            .With(EditorRows)
             .Property(L"Style", &C::GetStyle, &C::SetStyle, csDropDown)
             .Property(L"DropDownCount", &C::GetDropDownCount, &C::SetDropDownCount, 8)
             .Property(L"ItemHeight", &C::GetItemHeight, &C::SetItemHeight, 0)

@@ -279,12 +279,7 @@ const TMetaClass& TEdit::StaticClass() {
     using C = TEdit;
     static const TMetaClass meta =
         DefineClass<C>(L"TEdit", TCustomEdit::StaticClass())
-            .With(PlacementRows)
-            .With(WindowColorRows)
-            .With(FontRows)
-            .With(StateRows)
-            .With(TabRows)
-            .With(WindowRows)
+            .With(EditorRows)
             .Property(L"Alignment", &C::GetAlignment, &C::SetAlignment, taLeftJustify)
             .Property(L"AutoSelect", &C::GetAutoSelect, &C::SetAutoSelect, true)
             .Property(L"AutoSize", &C::GetAutoSize, &C::SetAutoSize, true)

@@ -277,12 +277,7 @@ const TMetaClass& TListBox::StaticClass() {
     using C = TListBox;
     static const TMetaClass meta =
         DefineClass<C>(L"TListBox", TCustomListBox::StaticClass())
-            .With(PlacementRows)
-            .With(WindowColorRows)
-            .With(FontRows)
-            .With(StateRows)
-            .With(TabRows)
-            .With(WindowRows)
+            .With(EditorRows)
             .Property(L"BorderStyle", &C::GetBorderStyle, &C::SetBorderStyle, bsSingle)
             .Property(L"IntegralHeight", &C::GetIntegralHeight, &C::SetIntegralHeight, false)
             .Property(L"Items", &C::GetItems, &C::SetItems)

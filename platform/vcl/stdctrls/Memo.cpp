@@ -176,12 +176,7 @@ const TMetaClass& TMemo::StaticClass() {
     using C = TMemo;
     static const TMetaClass meta =
         DefineClass<C>(L"TMemo", TCustomMemo::StaticClass())
-            .With(PlacementRows)
-            .With(WindowColorRows)
-            .With(FontRows)
-            .With(StateRows)
-            .With(TabRows)
-            .With(WindowRows)
+            .With(EditorRows)
             .Property(L"Alignment", &C::GetAlignment, &C::SetAlignment, taLeftJustify)
             .Property(L"BorderStyle", &C::GetBorderStyle, &C::SetBorderStyle, bsSingle)
             .Property(L"CharCase", &C::GetCharCase, &C::SetCharCase, ecNormal)
