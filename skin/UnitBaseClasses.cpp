@@ -7,12 +7,20 @@
 #include "platform/vcl/core/Exceptions.h"
 #include "skin/UnitQV7SkinConsts.h"
 
+std::span<const wchar_t* const> vcl::TEnumNames<qv7skin::TRecStatus>::Names() {
+    static constexpr const wchar_t* names[] = {L"rsUnchanged", L"rsNew", L"rsUpdated", L"rsDeleted"};
+    return names;
+}
+
 namespace qv7skin {
 
 // --- TLstBase
 
 const TMetaClass& TLstBase::StaticClass() {
-    static const TMetaClass meta = DefineClass<TLstBase>(L"TLstBase", TObject::StaticClass());
+    static const TMetaClass meta =
+        DefineClass<TLstBase>(L"TLstBase", TObject::StaticClass())
+            .Property(L"Count", &TLstBase::GetCount, nullptr)
+            .Property(L"OwnsObjects", &TLstBase::GetOwnsObjects, &TLstBase::SetOwnsObjects);
     return meta;
 }
 
@@ -182,8 +190,18 @@ const TMetaClass& TBase::StaticClass() {
     return meta;
 }
 
+namespace {
+
+/// Reading the status keeps it, which changes nothing that others see.
+TRecStatus PublishedStatus(const TRecStatusBase& record) {
+    return const_cast<TRecStatusBase&>(record).GetStatus();
+}
+
+}  // namespace
+
 const TMetaClass& TRecStatusBase::StaticClass() {
-    static const TMetaClass meta = DefineClass<TRecStatusBase>(L"TRecStatusBase", TBase::StaticClass());
+    static const TMetaClass meta = DefineClass<TRecStatusBase>(L"TRecStatusBase", TBase::StaticClass())
+                                       .Property(L"Status", &PublishedStatus, nullptr);
     return meta;
 }
 
@@ -225,7 +243,8 @@ TNotifyEventItem::TNotifyEventItem(TNotifyEvent iNotifyEvent, int Tag)
     : FTag(Tag), FNotifyEvent(std::move(iNotifyEvent)) {}
 
 const TMetaClass& TNotifyEventList::StaticClass() {
-    static const TMetaClass meta = DefineClass<TNotifyEventList>(L"TNotifyEventList", TObject::StaticClass());
+    static const TMetaClass meta = DefineClass<TNotifyEventList>(L"TNotifyEventList", TObject::StaticClass())
+                                       .Property(L"Count", &TNotifyEventList::GetCount, nullptr);
     return meta;
 }
 

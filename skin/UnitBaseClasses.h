@@ -6,6 +6,7 @@
 #include "platform/vcl/core/LifeGuard.h"
 #include "platform/vcl/core/Object.h"
 #include "platform/vcl/core/ObjectList.h"
+#include "platform/vcl/core/PublishedProperty.h"
 #include "platform/vcl/core/SyncObjs.h"
 #include "skin/Namespace.h"
 
@@ -127,6 +128,15 @@ public:
 /// How a record stands to what is stored of it.
 enum class TRecStatus { rsUnchanged, rsNew, rsUpdated, rsDeleted };
 using enum TRecStatus;
+
+}  // namespace qv7skin
+
+template <>
+struct vcl::TEnumNames<qv7skin::TRecStatus> {
+    static std::span<const wchar_t* const> Names();
+};
+
+namespace qv7skin {
 
 /// A record that knows whether it is new, changed or deleted, and can go back to its last commit.
 /// Descendants answer the questions and act; they mark a record as deleted with `FStatus`.

@@ -396,5 +396,24 @@ TEST_F(BaseListsTest, CopyingAStatusTakesTheReckonedOneAndTheSavedOne) {
     EXPECT_EQ(copy.FBKUPStatus, rsNew);
 }
 
+TEST_F(BaseListsTest, WhatListsAndRecordsPublishCanBeRead) {
+    const auto read = [](const TObject& object, const wchar_t* name) {
+        return std::get<std::int64_t>(object.ClassType().FindProperty(name)->Get(object));
+    };
+    TLstBase list(true);
+    EXPECT_EQ(read(list, L"Count"), 0);
+    EXPECT_EQ(read(list, L"OwnsObjects"), 1);
+    list.ClassType().FindProperty(L"OwnsObjects")->Set(list, std::int64_t{0});
+    EXPECT_FALSE(list.GetOwnsObjects());
+    EXPECT_TRUE(list.ClassType().FindProperty(L"Count")->IsReadOnly());
+    TNotifyEventList listeners(false);
+    listeners.Add(TNotifyEvent(), 0);
+    EXPECT_EQ(read(listeners, L"Count"), 1);
+    TProbeRecord record;
+    record.Changed = true;
+    EXPECT_EQ(read(record, L"Status"), 2);
+    EXPECT_STREQ(record.ClassType().FindProperty(L"Status")->ElementNames()[2], L"rsUpdated");
+}
+
 }  // namespace
 }  // namespace qv7skin
