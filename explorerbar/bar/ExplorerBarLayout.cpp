@@ -3,6 +3,7 @@
 
 #include "explorerbar/UnitQV7SkinExplorerBar.h"
 #include "explorerbar/UnitQV7SkinExplorerGroups.h"
+#include "explorerbar/bar/WhileScope.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/surfaces/ScrolledPaintBox.h"
@@ -67,31 +68,31 @@ bool TQV7SkinExplorerBar::MeasureContent() {
 
 void TQV7SkinExplorerBar::Measure() {
     if (FMeasuring || FUpdating) return;
-    FMeasuring = true;
     const TLifeGuard guard(*this);
-    FPaintBox->ReAssignBufferFont();
-    const bool needsBar = MeasureContent();
-    // The scroll range does not shrink under a closing group.
-    const int room = GetClientHeight() - 1;
-    FPaintBox->SetHeight(IsAnyClosing() && FContentHeight < room ? room : FContentHeight);
-    if (guard.IsAlive()) GetVertScrollBar().SetVisible(needsBar);
-    if (!guard.IsAlive()) return;
-    FMeasuring = false;
+    {
+        const TWhileScope measuring(*this, FMeasuring, true);
+        FPaintBox->ReAssignBufferFont();
+        const bool needsBar = MeasureContent();
+        // The scroll range does not shrink under a closing group.
+        const int room = GetClientHeight() - 1;
+        FPaintBox->SetHeight(IsAnyClosing() && FContentHeight < room ? room : FContentHeight);
+        if (guard.IsAlive()) GetVertScrollBar().SetVisible(needsBar);
+    }
     // The system may have taken another width for it than it told.
-    if (!HaveWidth(*FGroups, GetClientWidth())) Measure();
+    if (guard.IsAlive() && !HaveWidth(*FGroups, GetClientWidth())) Measure();
 }
 
 void TQV7SkinExplorerBar::GroupSlid() {
-    if (!FUpdating && !NeedsMeasure) {
-        const TLifeGuard guard(*this);
-        FKeepsHeights = true;
-        Measure();
-        if (!guard.IsAlive()) return;
-        FKeepsHeights = false;
-    } else {
+    if (FUpdating || NeedsMeasure) {
         NeedsMeasure = true;
+        return Repaint();
     }
-    Repaint();
+    const TLifeGuard guard(*this);
+    {
+        const TWhileScope keeping(*this, FKeepsHeights, true);
+        Measure();
+    }
+    if (guard.IsAlive()) Repaint();
 }
 
 /// Whether the scroll bar shows when the content does not fit, and only then. While a group closes it stays.
@@ -157,15 +158,8 @@ void TQV7SkinExplorerBar::PaintBuffer(TObject*, TBitmap* Buffer) {
         canvas.GetBrush().SetColor(FadeColor);
         canvas.FillRect(canvas.GetClipRect());
     }
-    const TLifeGuard guard(*this);
-    FGround = FadeColor;
-    try {
-        DrawGroups(*Buffer);
-    } catch (...) {
-        if (guard.IsAlive()) FGround = clNone;
-        throw;
-    }
-    if (guard.IsAlive()) FGround = clNone;
+    const TWhileScope ground(*this, FGround, FadeColor);
+    DrawGroups(*Buffer);
 }
 
 void TQV7SkinExplorerBar::DrawGroups(TBitmap& Buffer) {

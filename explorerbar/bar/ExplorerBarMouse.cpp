@@ -4,6 +4,7 @@
 
 #include "explorerbar/UnitQV7SkinExplorerBar.h"
 #include "explorerbar/UnitQV7SkinExplorerGroups.h"
+#include "explorerbar/bar/WhileScope.h"
 #include "explorerbar/items/ExplorerItem.h"
 #include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/controls/Mouse.h"
@@ -83,10 +84,8 @@ private:
 void TQV7SkinExplorerBar::RepaintPlace(const TPlace& Place) {
     TQV7SkinExplorerGroup* group = Place.Group();
     if (FUpdating || !group || group->GetExBar() != this) return;
-    const TLifeGuard guard(*this);
-    FPaintedAlone = group;
+    const TWhileScope alone(*this, FPaintedAlone, group);
     FPaintBox->RepaintPart(Place.Rect());
-    if (guard.IsAlive()) FPaintedAlone = nullptr;
 }
 
 void TQV7SkinExplorerBar::ShowHintOf(const TObject* Hot, int X, int Y) {

@@ -1,3 +1,4 @@
+#include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/core/Ledger.h"
 #include "platform/vcl/core/MathErrors.h"
 #include "tests/explorerbar/ExplorerBarFixture.h"
@@ -12,8 +13,10 @@ using test::PumpAll;
 class TFlashingItem : public TQV7SkinExplorerItemCustom {
 public:
     int Measured = 0;
+    bool Fails = false;
 
     void Draw(TBitmap& Bitmap, int& Left, int& Top, int& Width) override {
+        if (Fails) throw Exception(L"can't be painted");
         Place(Bitmap, Left, Top, Width);
         TCanvas& canvas = Bitmap.GetCanvas();
         canvas.GetBrush().SetStyle(bsSolid);
@@ -23,6 +26,7 @@ public:
         Top += 20;
     }
     void Measure(TBitmap& Bitmap, int& Left, int& Top, int& Width) override {
+        if (Fails) throw Exception(L"can't be measured");
         ++Measured;
         TQV7SkinExplorerItemCustom::Measure(Bitmap, Left, Top, Width);
     }
@@ -132,6 +136,23 @@ TEST_F(ExplorerBarLayoutTest, TheMouseMovedDuringAnUpdatePaintsNothing) {
     EXPECT_TRUE(SamePixels(Shown(), before));
     Bar().EndUpdate();
     EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+}
+
+TEST_F(ExplorerBarLayoutTest, AnErrorOfAnItemStopsNothingForGood) {
+    Fill(2, 3);
+    auto& item = AddTo(0, new TFlashingItem);
+    item.Fails = true;
+    MoveTo(item);
+    EXPECT_EQ(Errors.size(), 1U);
+    EXPECT_THROW(Bar().Repaint(), Exception);
+    Bar().NeedsMeasure = true;
+    EXPECT_THROW(Bar().Repaint(), Exception);
+    item.Fails = false;
+    Errors.clear();
+    Item(1, 0).SetVisible(false);
+    PumpAll();
+    EXPECT_TRUE(ShowsRowsOf(*WholePicture())) << "the other group too";
+    Errors.clear();
 }
 
 TEST_F(ExplorerBarLayoutTest, ItemsOfAllLooksAreRepaintedWholeUnderTheMouse) {
