@@ -1,6 +1,9 @@
 #include "designer/files/DesignFile.h"
 
+#include <algorithm>
+
 #include "designer/files/SafeFile.h"
+#include "designer/model/Naming.h"
 #include "platform/vcl/streaming/FormText.h"
 
 namespace designer {
@@ -20,10 +23,22 @@ void TDesignFile::New() {
     Adopt({}, TFormFormat::Text);
 }
 
+void TDesignFile::NewInheriting(const String& ancestor) {
+    std::vector<TFormDocument> chain = ChainOf(ancestor, OnChooseAncestor);
+    TFormDocument document;
+    document.Root.Kind = TFormObjectKind::Inherited;
+    document.Root.Name = FreeName(L"TForm", [&chain](const String& name) {
+        return std::ranges::any_of(chain, [&](const auto& form) { return SameText(form.Root.Name, name); });
+    });
+    document.Root.ClassName = L"T" + document.Root.Name;
+    FDocument.Begin(document, std::move(chain));
+    Adopt({}, TFormFormat::Text);
+}
+
 void TDesignFile::Open(const String& name) {
     const std::string bytes = ReadWholeFile(name);
     const TFormDocument document = ParseForm(std::as_bytes(std::span(bytes)), name);
-    FDocument.Begin(document);
+    FDocument.Begin(document, FindAncestors(document, name, OnChooseAncestor));
     Adopt(name, bytes.starts_with(BinarySignature) ? TFormFormat::Binary : TFormFormat::Text);
 }
 
@@ -31,6 +46,8 @@ void TDesignFile::Recover(const String& name, const std::string& text) {
     const TFormDocument document = ParseFormText(FromUtf8(text), name);
     if (!name.empty() && FileTimeOf(name) != 0)
         Open(name);
+    else if (document.Root.Kind == TFormObjectKind::Inherited)
+        FDocument.Begin(document, FindAncestors(document, name, OnChooseAncestor));
     else
         New();
     FDocument.SetDocument(L"Wiederherstellen", document);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "designer/files/Ancestors.h"
 #include "designer/model/DesignDocument.h"
 #include "platform/vcl/streaming/FormFiles.h"
 
@@ -16,9 +17,15 @@ public:
     /// What a window shows: the file's name without folder.
     [[nodiscard]] String Title() const;
 
+    /// Asked for the ancestor of a form when several files may be it.
+    TAncestorChoice OnChooseAncestor;
+
     /// Begins with an empty form.
     void New();
-    /// Begins with the file's form. Raises EFOpenError and EFormError; the present form stays then.
+    /// Begins with an empty form that inherits the one in that file. Raises what `Open` does.
+    void NewInheriting(const String& ancestor);
+    /// Begins with the file's form. Raises EFOpenError, EFormError, and EAbort when the user gives up
+    /// choosing its ancestor; the present form stays then.
     void Open(const String& name);
     /// Begins with a text that an earlier run left behind: the state counts as not saved.
     void Recover(const String& name, const std::string& text);

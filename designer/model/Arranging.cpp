@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "designer/model/Placing.h"
+#include "platform/vcl/streaming/UnknownComponent.h"
 
 namespace designer {
 namespace {
@@ -16,12 +17,19 @@ bool StandsInChosen(const TComponent& component, const TSelection& selection) {
     return false;
 }
 
+/// What stands in a menu or a list has no place on the form.
+bool HasPlace(const TComponent& component) {
+    return dynamic_cast<const TControl*>(&component) || !component.HasParent() ||
+           dynamic_cast<const TUnknownComponent*>(&component);
+}
+
 /// What is chosen and does not move with another chosen one, with its place.
 TPlaces ChosenPlaces(TDesignDocument& document) {
     TPlaces places;
     const TSelection& selection = document.Selection();
     for (TComponent* component : selection.Items())
-        if (!StandsInChosen(*component, selection)) places.emplace_back(component, PlaceOf(*component));
+        if (HasPlace(*component) && !StandsInChosen(*component, selection))
+            places.emplace_back(component, PlaceOf(*component));
     return places;
 }
 

@@ -25,6 +25,7 @@ void Collect(const TFormObject& object, const TSelection& selection, const TComp
 /// Gives the objects of a pasted text names that are free in the form.
 class TRenaming {
 public:
+    /// Among the components of that document.
     explicit TRenaming(const TFormDocument& document) : FDocument(document) {}
 
     void Rename(TFormObject& object) {
@@ -93,19 +94,27 @@ void MoveOffSiblings(TFormObject& object, std::vector<TFormObject>& siblings, in
     }
 }
 
-TFormObject* FindObject(TFormObject& object, const String& name) {
-    for (TFormObject& child : object.Children) {
-        if (SameText(child.Name, name)) return &child;
-        if (TFormObject* found = FindObject(child, name)) return found;
-    }
-    return nullptr;
+/// The object of the component in the document. A form that inherits others leaves out what it does not
+/// change; such an object comes in.
+TFormObject& ObjectOf(const TComponent& component, const TComponent& root, TFormDocument& document) {
+    if (&component == &root) return document.Root;
+    const TComponent* parent = component.GetParentComponent();
+    TFormObject& above = ObjectOf(parent ? *parent : root, root, document);
+    const auto found = std::ranges::find_if(
+        above.Children, [&](const auto& child) { return SameText(child.Name, component.GetName()); });
+    if (found != above.Children.end()) return *found;
+    TFormObject& added = above.Children.emplace_back();
+    added.Kind = TFormObjectKind::Inherited;
+    added.Name = component.GetName();
+    added.ClassName = component.ClassName();
+    return added;
 }
 
 }  // namespace
 
 String CopySelection(TDesignDocument& document) {
     String text;
-    Collect(document.Document().Root, document.Selection(), document.Root(), text);
+    Collect(document.Form().WriteWhole().Root, document.Selection(), document.Root(), text);
     return text;
 }
 
@@ -113,20 +122,19 @@ void PasteText(TDesignDocument& document, StringView text, const TComponent& par
     const TFormDocument pasted =
         ParseFormText(L"object Clipboard: TComponent\r\n" + String(text) + L"\r\nend\r\n");
     TFormDocument changed = document.Document();
-    TRenaming renaming(changed);
+    const TFormDocument whole = document.Form().WriteWhole();
+    TRenaming renaming(whole);
     std::vector<TFormObject> objects = pasted.Root.Children;
     for (TFormObject& object : objects)
         renaming.Rename(object);
 
-    TFormObject* target =
-        &parent == &document.Root() ? &changed.Root : FindObject(changed.Root, parent.GetName());
-    if (!target) return;
+    TFormObject& target = ObjectOf(parent, document.Root(), changed);
     std::vector<String> names;
     for (TFormObject& object : objects) {
         renaming.FollowReferences(object);
-        if (shift > 0) MoveOffSiblings(object, target->Children, shift);
+        if (shift > 0) MoveOffSiblings(object, target.Children, shift);
         names.push_back(object.Name);
-        target->Children.push_back(std::move(object));
+        target.Children.push_back(std::move(object));
     }
     document.SetDocument(L"Einfügen", changed);
     document.Selection().SetNames(names, document.Root());

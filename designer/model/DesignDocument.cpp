@@ -18,10 +18,10 @@ void TDesignDocument::MarkSaved() {
     OnChange();
 }
 
-void TDesignDocument::Begin(const TFormDocument& document) {
+void TDesignDocument::Begin(const TFormDocument& document, std::vector<TFormDocument> ancestors) {
+    Rebuild([&] { FForm.Load(document, std::move(ancestors)); });
     FSelection.Clear();
     FHistory.Clear();
-    Rebuild(document);
     NoteWritten();
     OnChange();
 }
@@ -40,6 +40,7 @@ void TDesignDocument::Edit(const String& label, const std::function<void()>& cha
     ++FDepth;
     try {
         change();
+        if (FDepth == 1) CheckInherited();
     } catch (...) {
         if (--FDepth == 0) {
             Show(FText, FForm.Write());
@@ -94,13 +95,22 @@ void TDesignDocument::Show(const std::string& text, const TFormDocument& present
         FWritten = FForm.Write();
         if (FormToText(FWritten) == text) return;
     }
-    Rebuild(wanted);
+    Rebuild([&] { FForm.Load(wanted); });
     FWritten = FForm.Write();
 }
 
-void TDesignDocument::Rebuild(const TFormDocument& document) {
+void TDesignDocument::CheckInherited() const {
+    const String name = FForm.MissingInherited();
+    if (!name.empty())
+        throw EInvalidOperation(
+            Format(L"%s gehört zu dem Formular, von dem dieses erbt. Hier kann es weder "
+                   L"gelöscht noch umbenannt noch woanders hineingestellt werden.",
+                   name));
+}
+
+void TDesignDocument::Rebuild(const std::function<void()>& load) {
     const std::vector<String> chosen = FSelection.Names();
-    FForm.Load(document);
+    load();
     FSelection.SetNames(chosen, FForm.Root());
     OnRebuilt();
 }

@@ -30,12 +30,15 @@ public:
     void MarkSaved();
 
     /// Begins with another form file, without history. What is wrong in it stands in `Form().Problems()`.
-    void Begin(const TFormDocument& document);
+    /// A form that inherits others needs their documents, the oldest first. Raises EFormError when they are
+    /// missing or can't be read; the present form stays then.
+    void Begin(const TFormDocument& document, std::vector<TFormDocument> ancestors = {});
     /// Begins with an empty form.
     void BeginNew();
 
     /// Runs a change to the components and takes it into the history as one edit, if it changed anything.
-    /// Edits within it belong to it. When the change raises, everything is as before, and the error goes on.
+    /// Edits within it belong to it. When the change raises, everything is as before, and the error goes on;
+    /// so too, with EInvalidOperation, when an inherited component is gone afterwards.
     void Edit(const String& label, const std::function<void()>& change);
     /// Makes another text the form file, as one edit. Raises EFormError when it can't be parsed; the form
     /// stays as it was then.
@@ -55,7 +58,8 @@ public:
 
 private:
     void Show(const std::string& text, const TFormDocument& present);
-    void Rebuild(const TFormDocument& document);
+    void Rebuild(const std::function<void()>& load);
+    void CheckInherited() const;
     void NoteWritten();
     void Commit(const String& label);
     void NoteRemoved(TComponent* component) { FSelection.Forget(component); }

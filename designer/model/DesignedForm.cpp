@@ -56,6 +56,29 @@ void ReplaceNumber(TFormObject& object, StringView name, int value) {
     if (place != object.Properties.end()) place->Value.Content = std::int64_t{value};
 }
 
+void RemoveProperty(TFormObject& object, StringView name) {
+    std::erase_if(object.Properties, [&](const auto& p) { return SameText(p.Name, name); });
+}
+
+/// No form stands there.
+constexpr int NoPlace = -30'000;
+
+/// Reads what the ancestors of a form bring along.
+void ReadAncestors(const std::vector<TFormDocument>& ancestors, TDesignRoot& root) {
+    for (const TFormDocument& ancestor : ancestors)
+        TReader(ancestor).ReadRootComponent(&root);
+}
+
+/// True when both stand in components of the same name, or on the form itself.
+bool HaveSameParent(const TComponent& a, const TComponent& b) {
+    const TComponent* parentA = a.GetParentComponent();
+    const TComponent* parentB = b.GetParentComponent();
+    const bool isOnForm = !parentA || parentA == a.GetOwner();
+    if (isOnForm || !parentB || parentB == b.GetOwner())
+        return isOnForm == (!parentB || parentB == b.GetOwner());
+    return parentA->GetName() == parentB->GetName();
+}
+
 }  // namespace
 
 TDesignedForm::TDesignedForm() {
@@ -69,17 +92,31 @@ TDesignedForm::TDesignedForm() {
 TDesignedForm::~TDesignedForm() = default;
 
 void TDesignedForm::Load(const TFormDocument& document) {
+    const bool inherits = document.Root.Kind == TFormObjectKind::Inherited;
+    if (inherits && FAncestors.empty())
+        throw EFormError({.Kind = TFormProblemKind::MissingAncestor,
+                          .FileName = document.FileName,
+                          .Position = document.Root.Position,
+                          .Path = document.Root.Name,
+                          .Property = {},
+                          .Text = L"Das Formular, von dem dieses erbt, fehlt"});
     auto root = std::make_unique<TDesignRoot>();
+    if (inherits) ReadAncestors(FAncestors, *root);
     TReader reader(document);
     reader.CollectProblems = true;
     reader.ReadRootComponent(root.get());
     // Other forms of this program may have the name, which does not matter here.
     if (!document.Root.Name.empty()) root->SetName(document.Root.Name);
 
+    FInherits = inherits;
     FFormClassName = document.Root.ClassName;
     FPlace = {root->GetLeft(), root->GetTop()};
     FProblems = reader.GetProblems();
     FUnread = reader.GetUnreadProperties();
+    Adopt(std::move(root));
+}
+
+void TDesignedForm::Adopt(std::unique_ptr<TDesignRoot> root) {
     if (FRoot) {
         root->SetBounds(FRoot->GetLeft(), FRoot->GetTop(), root->GetWidth(), root->GetHeight());
         root->SetDesignHook(FRoot->GetDesignHook());
@@ -88,6 +125,27 @@ void TDesignedForm::Load(const TFormDocument& document) {
     root->OnRemove = {this, &TDesignedForm::NoteRemoved};
     // The old components go with the root that leaves here.
     std::swap(FRoot, root);
+}
+
+void TDesignedForm::Load(const TFormDocument& document, std::vector<TFormDocument> ancestors) {
+    std::unique_ptr<TDesignRoot> ancestor;
+    TPoint place;
+    if (!ancestors.empty()) {
+        ancestor = std::make_unique<TDesignRoot>();
+        ReadAncestors(ancestors, *ancestor);
+        place = {ancestor->GetLeft(), ancestor->GetTop()};
+        // The designer shows the form elsewhere: its place is always written, and compared by itself.
+        ancestor->SetBounds(NoPlace, NoPlace, ancestor->GetWidth(), ancestor->GetHeight());
+    }
+    std::swap(FAncestors, ancestors);
+    try {
+        Load(document);
+    } catch (...) {
+        std::swap(FAncestors, ancestors);
+        throw;
+    }
+    FAncestor = std::move(ancestor);
+    FAncestorPlace = place;
 }
 
 bool TDesignedForm::Patch(const TFormDocument& from, const TFormDocument& to) {
@@ -121,14 +179,42 @@ bool TDesignedForm::Patch(const TFormDocument& from, const TFormDocument& to) {
     return true;
 }
 
-TFormDocument TDesignedForm::Write() const {
+TFormDocument TDesignedForm::WriteWith(TComponent* ancestor) const {
     TWriter writer;
     writer.UnreadProperties = &FUnread;
-    TFormDocument document = writer.WriteRootComponent(*FRoot);
+    TFormDocument document = writer.WriteRootComponent(*FRoot, ancestor);
     document.Root.ClassName = FFormClassName;
     ReplaceNumber(document.Root, L"Left", FPlace.X);
     ReplaceNumber(document.Root, L"Top", FPlace.Y);
     return document;
+}
+
+TFormDocument TDesignedForm::Write() const {
+    if (!FInherits) return WriteWith(nullptr);
+    TFormDocument document = WriteWith(FAncestor.get());
+    if (FPlace.X == FAncestorPlace.X) RemoveProperty(document.Root, L"Left");
+    if (FPlace.Y == FAncestorPlace.Y) RemoveProperty(document.Root, L"Top");
+    return document;
+}
+
+TFormDocument TDesignedForm::WriteWhole() const {
+    return WriteWith(nullptr);
+}
+
+bool TDesignedForm::IsInherited(const TComponent& component) const {
+    return FInherits && component.GetOwner() == FRoot.get() && !component.GetName().empty() &&
+           FAncestor->FindComponent(component.GetName());
+}
+
+String TDesignedForm::MissingInherited() const {
+    for (int i = 0; FInherits && i < FAncestor->GetComponentCount(); ++i) {
+        const TComponent& wanted = *FAncestor->GetComponent(i);
+        const TComponent* present = FRoot->FindComponent(wanted.GetName());
+        if (wanted.GetName().empty()) continue;
+        if (!present || &present->ClassType() != &wanted.ClassType() || !HaveSameParent(*present, wanted))
+            return wanted.GetName();
+    }
+    return {};
 }
 
 void TDesignedForm::SetFormClassName(const String& name) {

@@ -5,6 +5,7 @@
 #include "designer/surface/Handles.h"
 #include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/controls/Mouse.h"
+#include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Brush.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/UnitQV7SkinColors.h"
@@ -127,6 +128,8 @@ void TDesignSurface::UpdateMarks() {
     std::vector<TRect> marks;
     const TSelection& selection = FDocument.Selection();
     for (const TComponent* component : selection.Items()) {
+        if (!dynamic_cast<const TControl*>(component) && !TComponentIcons::IsShownByIcon(*component))
+            continue;
         const auto around = HandlesAround(PlaceInForm(*component));
         const bool single = selection.Items().size() == 1 && dynamic_cast<const TControl*>(component);
         for (std::size_t i = 0; i < around.size(); ++i) {
@@ -274,12 +277,21 @@ void TDesignSurface::KeyDown(WORD& key, TShiftState shift) {
         case VK_DOWN:
             return Nudge(0, step, sizing);
         case VK_DELETE:
-            return DeleteSelection(FDocument);
+            return DeleteChosen();
         case VK_ESCAPE:
             if (CancelDrag()) return;
             return FDocument.Selection().Clear();
         default:
             return;
+    }
+}
+
+void TDesignSurface::DeleteChosen() {
+    try {
+        DeleteSelection(FDocument);
+    } catch (const Exception& error) {
+        if (!OnRefused) throw;
+        OnRefused(error.Message());
     }
 }
 

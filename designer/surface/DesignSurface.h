@@ -38,6 +38,8 @@ public:
     TEvent<void(TComponent*)> OnOpenItem;
     /// The menu for what is chosen is wanted at that point of the screen.
     TEvent<void(TPoint)> OnMenu;
+    /// What the user wanted can't be done, and why. Unbound, the error goes on.
+    TEvent<void(const String&)> OnRefused;
     /// A drag is under way: where the leader stands now.
     TEvent<void(const TRect&)> OnDragged;
 
@@ -88,6 +90,7 @@ private:
     void ShowMoved(const TRect& leader, const std::vector<TRect>& places);
     [[nodiscard]] TRect Band(TPoint point) const;
     void Nudge(int dx, int dy, bool sizing);
+    void DeleteChosen();
 
     TDesignDocument& FDocument;
     const TMetaClass* FTool = nullptr;

@@ -19,6 +19,9 @@ bool TDesignerWindow::Try(const std::function<void()>& command) {
         FGrid->Accept();
         command();
         return true;
+    } catch (const EAbort&) {
+        // The user has changed his mind.
+        return false;
     } catch (const Exception& error) {
         FDialogs->ShowError(error.Message());
         return false;
@@ -43,6 +46,14 @@ bool TDesignerWindow::MayLeave() {
 void TDesignerWindow::NewForm() {
     if (!MayLeave()) return;
     Try([this] { FFile.New(); });
+    UpdateTitle();
+}
+
+void TDesignerWindow::NewInheritingForm() {
+    if (!MayLeave()) return;
+    const auto ancestor = FDialogs->AskFileToOpen();
+    if (!ancestor) return;
+    Try([&] { FFile.NewInheriting(*ancestor); });
     UpdateTitle();
 }
 
@@ -189,7 +200,7 @@ void TDesignerWindow::ToggleText() {
 }
 
 void TDesignerWindow::Preview() {
-    if (AcceptText()) Try([this] { RunPreview(FDocument.Document()); });
+    if (AcceptText()) Try([this] { RunPreview(FDocument.Form().WriteWhole()); });
 }
 
 }  // namespace designer

@@ -6,9 +6,11 @@
 
 #include "buttons/UnitQV7SkinMessageDialog.h"
 #include "designer/dialogs/DialogParts.h"
+#include "designer/dialogs/RowList.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/stdctrls/Edit.h"
 #include "platform/vcl/stdctrls/Label.h"
+#include "platform/vcl/stdctrls/ScrollBox.h"
 
 namespace designer {
 namespace {
@@ -93,6 +95,30 @@ bool TDesignerDialogs::AskToRecover(const String& title) {
                      .Description = L"Dieser Stand geht verloren.",
                      .Result = mrNo,
                      .Cancel = true});
+}
+
+std::optional<String> TDesignerDialogs::AskAncestor(const std::vector<String>& files) {
+    constexpr TSize size{420, 260};
+    TForm form(nullptr);
+    PrepareDialog(form, L"Abgeleitetes Formular", size, true);
+    auto* label = new TLabel(&form);
+    label->SetCaption(L"Von welchem Formular erbt dieses?");
+    label->SetBounds(DialogMargin, DialogMargin, 300, 16);
+    label->SetParent(&form);
+    TScrollBox& box = AddScrollField(form, {DialogMargin, 34, size.Width - DialogMargin,
+                                            size.Height - 2 * DialogMargin - DialogButtonHeight});
+    auto* list = new TRowList(&form);
+    list->SetAlign(alTop);
+    list->SetParent(&box);
+    std::vector<TListRow> rows;
+    for (const String& file : files)
+        rows.push_back({.Text = file});
+    list->SetRows(std::move(rows));
+    list->SetChosen(0);
+    AddOkAndCancel(form);
+    form.SetActiveControl(list);
+    if (form.ShowModal() != mrOk) return std::nullopt;
+    return files[static_cast<std::size_t>(list->GetChosen())];
 }
 
 void TDesignerDialogs::ShowError(const String& message) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "designer/Namespace.h"
 #include "platform/vcl/core/Strings.h"
@@ -22,6 +23,8 @@ public:
     [[nodiscard]] virtual bool AskToReload(const String& title);
     /// Work on that file was left by a run that did not end in good order: take it up?
     [[nodiscard]] virtual bool AskToRecover(const String& title);
+    /// Which of these files holds the form that the one to be opened inherits?
+    [[nodiscard]] virtual std::optional<String> AskAncestor(const std::vector<String>& files);
     virtual void ShowError(const String& message);
     /// A new name for a component.
     [[nodiscard]] virtual std::optional<String> AskName(const String& present);

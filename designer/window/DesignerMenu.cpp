@@ -41,6 +41,7 @@ void TDesignerWindow::MakeMenu() {
     TMenuItem& file = AddSubmenu(bar, L"&Datei");
     file.OnClick = {this, &TDesignerWindow::UpdateRecentFiles};
     AddItem(file, L"&Neu", L"Ctrl+N", [this] { NewForm(); });
+    AddItem(file, L"Neu, &abgeleitet von …", L"Shift+Ctrl+N", [this] { NewInheritingForm(); });
     AddItem(file, L"Ö&ffnen …", L"Ctrl+O", [this] { Open(); });
     FRecentItem = &AddSubmenu(file, L"&Zuletzt geöffnet");
     AddItem(file, L"&Speichern", L"Ctrl+S", [this] { Save(); });

@@ -56,7 +56,11 @@ TDesignerWindow::TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDi
     FSurface->OnToolUsed = {this, &TDesignerWindow::ToolUsed};
     FSurface->OnOpenItem = {this, &TDesignerWindow::OpenItem};
     FSurface->OnMenu = {this, &TDesignerWindow::ShowContextMenu};
+    FSurface->OnRefused = [this](const String& message) { FDialogs->ShowError(message); };
     FSurface->OnDragged = {this, &TDesignerWindow::ShowFigures};
+    FFile.OnChooseAncestor = [this](const std::vector<String>& files) {
+        return FDialogs->AskAncestor(files);
+    };
     FDocument.OnChange = {this, &TDesignerWindow::DocumentChanged};
     FDocument.Selection().OnChange = {this, &TDesignerWindow::SelectionChanged};
     MakeMenu();

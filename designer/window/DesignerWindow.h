@@ -54,6 +54,8 @@ public:
 
     // Commands (DesignerCommands.cpp). Errors are shown.
     void NewForm();
+    /// Begins with a form that inherits the one in a file that the user chooses.
+    void NewInheritingForm();
     void Open();
     /// False when it was not saved.
     bool Save();

@@ -40,8 +40,9 @@ void TStructureBar::UpdateComponents() {
     for (const TGroupContent& content : contents) {
         structure += content.Title + L'\n';
         for (const TComponent* child : content.Children)
-            structure += Format(L"%s %x\n", LineOf(*child, child->ClassName()),
-                                reinterpret_cast<std::uintptr_t>(child));
+            structure +=
+                Format(L"%s %x %d\n", LineOf(*child, child->ClassName()),
+                       reinterpret_cast<std::uintptr_t>(child), FDocument.Form().IsInherited(*child));
     }
     if (structure == FShown) return UpdateSelection();
     FShown = std::move(structure);
@@ -59,7 +60,7 @@ void TStructureBar::UpdateComponents() {
             link->SetWordWrap(false);
             link->OnClick = [this, name = child->GetName()](TObject*) { Choose(name); };
             group->GetItems().Add(link);
-            FLinks.emplace(child, link);
+            FLinks.emplace(child, TEntry{link, FDocument.Form().IsInherited(*child)});
         }
         if (closed.contains(content.Title)) group->OpenClose();
     }
@@ -68,8 +69,11 @@ void TStructureBar::UpdateComponents() {
 }
 
 void TStructureBar::UpdateSelection() {
-    for (const auto& [component, link] : FLinks)
-        link->SetFontStyle(FDocument.Selection().Contains(component) ? TFontStyles{fsBold} : TFontStyles{});
+    for (const auto& [component, entry] : FLinks) {
+        TFontStyles style = entry.IsInherited ? TFontStyles{fsItalic} : TFontStyles{};
+        if (FDocument.Selection().Contains(component)) style = style + TFontStyles{fsBold};
+        entry.Link->SetFontStyle(style);
+    }
 }
 
 void TStructureBar::Choose(const String& name) {

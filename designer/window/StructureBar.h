@@ -12,7 +12,8 @@ class TQV7SkinExplorerItemLink;
 namespace designer {
 
 /// Shows the components of a form in an explorer bar: the form and each control that holds others as a group,
-/// with what stands in it as links. A click on a link chooses the component; those that are chosen are bold.
+/// with what stands in it as links. A click on a link chooses the component; those that are chosen are bold,
+/// those that are inherited italic.
 class TStructureBar {
 public:
     /// Fills the bar, which must outlive it, as must the document.
@@ -34,8 +35,12 @@ private:
 
     TQV7SkinExplorerBar& FBar;
     TDesignDocument& FDocument;
-    std::map<const TComponent*, TQV7SkinExplorerItemLink*> FLinks;
-    String FShown;  ///< The structure that the bar shows, as text.
+    struct TEntry {
+        TQV7SkinExplorerItemLink* Link;
+        bool IsInherited;
+    };
+    std::map<const TComponent*, TEntry> FLinks;  ///< The components may be gone; compare only.
+    String FShown;                               ///< The structure that the bar shows, as text.
 };
 
 }  // namespace designer

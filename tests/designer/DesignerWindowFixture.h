@@ -11,6 +11,7 @@ struct TPreparedAnswers {
     TDesignerDialogs::TAnswer Save = TDesignerDialogs::TAnswer::Cancel;
     std::optional<String> File;
     std::optional<String> Name;
+    std::vector<String> Files;  ///< Those that were to choose from.
     bool Yes = false;
     int Questions = 0;
     std::vector<String> Errors;
@@ -24,6 +25,10 @@ public:
     std::optional<String> AskFileToSave(const String&) override { return FAnswers.File; }
     bool AskToReload(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
     bool AskToRecover(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
+    std::optional<String> AskAncestor(const std::vector<String>& files) override {
+        FAnswers.Files = files;
+        return FAnswers.File;
+    }
     void ShowError(const String& message) override { FAnswers.Errors.push_back(message); }
     std::optional<String> AskName(const String&) override { return FAnswers.Name; }
 
