@@ -42,6 +42,8 @@ public:
     void SetOverItem(bool Value) { FOverItem = Value; }
     /// The control's `AllowItemUndock` when the drag began.
     [[nodiscard]] bool GetUndock() const { return FUndock; }
+    /// Scrolls while the drag is under way.
+    [[nodiscard]] const TTimer& GetScrollTimer() const { return *FTimer; }
     /// The indices of the items left and right of the marker; -1 and the count of items where there is none.
     [[nodiscard]] int GetLeftIndex() const { return FLeftIndex; }
     [[nodiscard]] int GetRightIndex() const { return FRightIndex; }

@@ -195,9 +195,9 @@ TEST_F(AutoScroll, NearTheLeftEdgeItGoesBackItemByItem) {
 }
 
 TEST_F(AutoScroll, TheTimerDoesItEveryHalfSecond) {
-    EXPECT_EQ(TQV7SkinHeaderDragObjectBase::ScrollInterval, 500u);
     Strip->ScrollBy(1);
     Lift(ItemWidth);
+    EXPECT_EQ(Carrier()->GetScrollTimer().GetInterval(), 500u);
     Input.MoveTo(Surface(), 5, Middle);
     EXPECT_TRUE(test::PumpUntil([this] { return First() == 0; }));
     Input.KeyPress(VK_ESCAPE);

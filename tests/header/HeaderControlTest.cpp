@@ -1,10 +1,12 @@
 #include "header/control/HeaderControl.h"
 
+#include "header/chevrons/HeaderChevronBase.h"
 #include "platform/vcl/core/MetaClass.h"
 #include "platform/vcl/core/PublishedProperty.h"
 #include "platform/vcl/graphics/Brush.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/menus/PopupMenu.h"
+#include "platform/vcl/stdctrls/Panel.h"
 #include "skin/surfaces/FlickerFreePaintBox.h"
 #include "tests/header/HeaderFixture.h"
 
@@ -312,6 +314,34 @@ TEST_F(HeaderControlTest, GoesWithTheMouseOnIt) {
 TEST_F(HeaderControlTest, ErasesNothing) {
     HWND window = Header->GetHandle();
     EXPECT_EQ(SendMessageW(window, WM_ERASEBKGND, 0, 0), 1);
+}
+
+TEST_F(HeaderControlTest, AChevronThatIsFreedIsMadeAnew) {
+    AddBars({200, 200});
+    ASSERT_TRUE(Header->GetChevronVisible());
+    delete &Header->GetChevron();
+    EXPECT_FALSE(Header->GetChevronVisible());
+    Header->Refresh();
+    EXPECT_TRUE(Header->GetChevronVisible());
+}
+
+TEST_F(HeaderControlTest, TheChevronComesBackInFrontOfOtherChildren) {
+    AddBars({200, 200});
+    Make<TPanel>({250, 0, 300, 21}, Header);
+    Header->Refresh();
+    EXPECT_EQ(Header->GetControl(Header->GetControlCount() - 1), &Header->GetChevron());
+}
+
+TEST_F(HeaderControlTest, ScrollingPaintsAtOnceAlsoWhereNothingMoves) {
+    AddBars({50});
+    const auto* const bar = static_cast<probes::TBarItem*>(Items()[0]);
+    int draws = bar->Draws;
+    Header->ScrollFirst();
+    EXPECT_EQ(bar->Draws, ++draws);
+    Header->ScrollLast();
+    EXPECT_EQ(bar->Draws, ++draws);
+    Header->ScrollBy(0);
+    EXPECT_EQ(bar->Draws, ++draws);
 }
 
 TEST_F(HeaderControlTest, LetsGoOfAMenuThatIsFreed) {

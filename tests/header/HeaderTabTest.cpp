@@ -160,6 +160,18 @@ TEST_F(HeaderTabTest, DrawsItsPictureAndTheCaptionAfterIt) {
     EXPECT_LT(text.left, 5 + 12 + 3 + 4);
 }
 
+TEST_F(HeaderTabTest, NewPicturesPaintTheRowAtOnce) {
+    const auto picture = Picture(12, 10, clRed);
+    Tab* const tab = AddTab(L"");
+    const probes::TBarItem* const beside = AddBar(20);
+    int draws = beside->Draws;
+    tab->SetImage(picture.get());
+    EXPECT_EQ(beside->Draws, ++draws);
+    tab->SetImageSelected(picture.get());
+    EXPECT_EQ(beside->Draws, ++draws);
+    Items().Clear();
+}
+
 TEST_F(HeaderTabTest, ATallPictureBeginsInTheSecondRow) {
     const auto picture = Picture(8, 30, clRed);
     Tab* const tab = AddTab(L"");

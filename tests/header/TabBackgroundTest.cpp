@@ -50,6 +50,15 @@ TEST_F(TabBackgrounds, WithoutTheLoadingStepThereAreNoPieces) {
     EXPECT_TRUE(SamePixels(Background(2, 40, 21), Pixels(40, 21, 0)));
 }
 
+TEST_F(TabBackgrounds, LoadingBringsThePiecesToTabsThatShow) {
+    AddBlank(60);
+    const int height = Strip->GetHeight();
+    EXPECT_TRUE(SamePixels(ShownAt(0, 60), Pixels(60, height, LightFill)));
+    Strip->Loaded();
+    EXPECT_TRUE(
+        SamePixels(ShownAt(0, 60), Over(StripColor, ComposedTab(L"TABDEFAULT", LightFill, 60, height))));
+}
+
 TEST_F(TabBackgrounds, AChangeAfterLoadingKeepsThePieces) {
     Strip->Loaded();
     Strip->TabBackground = bckgrndWhite;

@@ -72,6 +72,16 @@ TEST_F(ToolbarChevronTest, TakesTheToolbarsHeightWhenItIsShown) {
     EXPECT_EQ(FChevron->GetButtonRect(), TRect(3, 7, 13, 17));
 }
 
+TEST_F(ToolbarChevronTest, IsRenderedAnewInAnotherHeight) {
+    FBar->SetHeight(50);
+    EXPECT_EQ(FChevron->GetHeight(), 34) << "it takes the toolbar's height when it comes to be shown";
+    FChevron->SetHeight(50);
+    const Pixels shown = Shown(), bar = Load(L"TOOLBARBACKGROUND");
+    ASSERT_EQ(shown.Height(), 50);
+    EXPECT_EQ(shown.At(10, 0), bar.At(0, 0));
+    EXPECT_EQ(shown.At(10, 49), bar.At(0, 33));
+}
+
 TEST_F(ToolbarChevronTest, ShowsBarAndSeparatorAtRest) {
     EXPECT_EQ(FChevron->GetImageState(), Chevron::isNormal);
     EXPECT_TRUE(

@@ -81,6 +81,18 @@ TEST_F(ToolbuttonTest, CentresItsPictureVertically) {
     EXPECT_EQ(place.bottom, 11 + 8);
 }
 
+TEST_F(ToolbuttonTest, NewPicturesPaintTheRowAtOnce) {
+    const auto picture = Picture(10, 8, clRed);
+    TQV7SkinToolbutton* const button = AddButton(L"");
+    const probes::TBarItem* const beside = AddBar(20);
+    int draws = beside->Draws;
+    button->SetImage(picture.get());
+    EXPECT_EQ(beside->Draws, ++draws);
+    button->SetImageSelected(picture.get());
+    EXPECT_EQ(beside->Draws, ++draws);
+    Items().Clear();
+}
+
 TEST_F(ToolbuttonTest, DrawsItsCaptionBlackAfterThePicture) {
     const auto picture = Picture(10, 8, clRed);
     const auto textLeft = [&](TQV7SkinToolbutton& button) {
