@@ -70,6 +70,7 @@ TCustomQV7SkinComboBox::TCustomQV7SkinComboBox(TComponent* AOwner)
     : TCurvyPanel(AOwner), FItems(std::make_unique<TStringList>()) {
     FItems->Duplicates = dupAccept;
     SetRounding(InputRounding);
+    ControlStyle.Exclude(csAcceptsControls);
 }
 
 TCustomQV7SkinComboBox::~TCustomQV7SkinComboBox() {

@@ -35,6 +35,7 @@ const TMetaClass& TCustomQV7SkinComboBoxCustomDropDown::StaticClass() {
 TCustomQV7SkinComboBoxCustomDropDown::TCustomQV7SkinComboBoxCustomDropDown(TComponent* AOwner)
     : TCurvyPanel(AOwner) {
     SetRounding(InputRounding);
+    ControlStyle.Exclude(csAcceptsControls);
 }
 
 TCustomQV7SkinComboBoxCustomDropDown::~TCustomQV7SkinComboBoxCustomDropDown() {

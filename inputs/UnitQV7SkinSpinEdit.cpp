@@ -27,6 +27,7 @@ const TMetaClass& TCustomQV7SkinSpinEdit::StaticClass() {
 
 TCustomQV7SkinSpinEdit::TCustomQV7SkinSpinEdit(TComponent* AOwner) : TCurvyPanel(AOwner) {
     SetRounding(InputRounding);
+    ControlStyle.Exclude(csAcceptsControls);
 }
 
 TCustomQV7SkinSpinEdit::~TCustomQV7SkinSpinEdit() {

@@ -67,6 +67,7 @@ TCustomQV7SkinTreeComboBox::TCustomQV7SkinTreeComboBox(TComponent* AOwner)
     : TCustomQV7SkinContainer(AOwner), FItems(std::make_unique<TStringList>()) {
     FItems->Duplicates = dupAccept;
     SetParentFont(true);
+    ControlStyle.Exclude(csAcceptsControls);
     FIsWhole = true;
 }
 

@@ -2,6 +2,7 @@
 #include "platform/vcl/controls/BasicAction.h"
 #include "platform/vcl/controls/ContextMenu.h"
 #include "platform/vcl/controls/Control.h"
+#include "platform/vcl/controls/ControlParts.h"
 #include "platform/vcl/controls/Mouse.h"
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/controls/WinControl.h"
@@ -199,6 +200,13 @@ void TControl::WmContextMenu(TMessage& message) {
     message.Result = handled;
     if (handled || !guard.IsAlive()) return;
     TContextMenu* menu = GetPopupMenuAt(client);
+    // Editors of the system would show a menu of their own. Parts without a window leave it to their whole,
+    // which asked them.
+    const bool asksWhole = !menu && dynamic_cast<TWinControl*>(this);
+    if (TControl* holder = asksWhole ? MenuHolderOf(*this) : nullptr; holder && holder != this) {
+        message.Result = holder->Perform(WM_CONTEXTMENU, message.WParam, message.LParam);
+        return;
+    }
     if (!menu || !menu->GetAutoPopup()) return DefaultHandler(message);
     SendCancelMode();
     if (!guard.IsAlive()) return;

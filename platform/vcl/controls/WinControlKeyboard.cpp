@@ -33,14 +33,30 @@ bool TWinControl::PreviewedByForm(TMessage& message) {
     return form && &form->FormControl() != this && form->GetKeyPreview() && form->PreviewKey(message);
 }
 
+namespace {
+
+/// Opens the popup menu of the focus by Shift+F10; false for other keys. Left to the system the release of
+/// F10 would go on to the window's menu.
+bool OpensContextMenu(const TMessage& message) {
+    const bool isKey = message.Msg == WM_SYSKEYDOWN && message.CharCode() == VK_F10;
+    if (!isKey || KeyDataToShiftState(message.KeyData()) != TShiftState{ssShift}) return false;
+    const HWND focus = ::GetFocus();
+    if (focus) ::SendMessageW(focus, WM_CONTEXTMENU, reinterpret_cast<WPARAM>(focus), LPARAM{-1});
+    return true;
+}
+
+}  // namespace
+
 bool TWinControl::DoKeyDown(TMessage& message) {
     const TLifeGuard guard(*this);
     if (PreviewedByForm(message) || !guard.IsAlive()) return true;
-    if (ControlStyle.Contains(csNoStdEvents)) return false;
-    WORD key = message.CharCode();
-    KeyDown(key, KeyDataToShiftState(message.KeyData()));
-    message.WParam = key;
-    return key == 0 || !guard.IsAlive();
+    if (!ControlStyle.Contains(csNoStdEvents)) {
+        WORD key = message.CharCode();
+        KeyDown(key, KeyDataToShiftState(message.KeyData()));
+        message.WParam = key;
+        if (key == 0 || !guard.IsAlive()) return true;
+    }
+    return OpensContextMenu(message);
 }
 
 bool TWinControl::DoKeyUp(TMessage& message) {

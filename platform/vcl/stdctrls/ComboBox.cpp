@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "platform/vcl/controls/AppServices.h"
+#include "platform/vcl/controls/ControlParts.h"
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -246,6 +247,11 @@ bool TCustomComboBox::EditMessage(TMessage& message) {
             const bool closes = message.CharCode() == VK_RETURN || message.CharCode() == VK_ESCAPE;
             if (closes && GetDroppedDown()) SetDroppedDown(false);
             return closes;
+        }
+        case WM_CONTEXTMENU: {
+            TControl* holder = MenuHolderOf(*this);
+            if (holder) message.Result = holder->Perform(WM_CONTEXTMENU, message.WParam, message.LParam);
+            return holder != nullptr;
         }
         default:
             return false;
