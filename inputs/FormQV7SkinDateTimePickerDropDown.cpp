@@ -1,5 +1,7 @@
 #include "inputs/FormQV7SkinDateTimePickerDropDown.h"
 
+#include <algorithm>
+
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/streaming/ClassRegistry.h"
 #include "platform/vcl/streaming/FormResources.h"
@@ -31,6 +33,19 @@ TfrmQV7SkinDateTimePickerDropDown::TfrmQV7SkinDateTimePickerDropDown(TComponent*
 
 void TfrmQV7SkinDateTimePickerDropDown::FormShow(TObject*) {
     Cancelled = false;
+    MakeRoom();
+}
+
+/// The month needs more room with some fonts of the system than the form was designed with.
+void TfrmQV7SkinDateTimePickerDropDown::MakeRoom() {
+    const TSize needed = MonthCalendar->GetNeededSize();
+    const int right = std::max(needed.Width - MonthCalendar->GetWidth(), 0);
+    const int down = std::max(needed.Height - MonthCalendar->GetHeight(), 0);
+    if (right == 0 && down == 0) return;
+    MonthCalendar->SetBounds(MonthCalendar->GetLeft(), MonthCalendar->GetTop(),
+                             MonthCalendar->GetWidth() + right, MonthCalendar->GetHeight() + down);
+    SetClientWidth(std::max(GetClientWidth(), MonthCalendar->GetLeft() + MonthCalendar->GetWidth() - 1));
+    SetClientHeight(std::max(GetClientHeight(), MonthCalendar->GetTop() + MonthCalendar->GetHeight() - 1));
 }
 
 void TfrmQV7SkinDateTimePickerDropDown::FormKeyPress(TObject*, wchar_t& Key) {

@@ -23,6 +23,9 @@ public:
     void FormShow(TObject* Sender);
     void FormKeyPress(TObject* Sender, wchar_t& Key);
     void MonthCalendarDblClick(TObject* Sender);
+
+private:
+    void MakeRoom();
 };
 
 }  // namespace qv7skin

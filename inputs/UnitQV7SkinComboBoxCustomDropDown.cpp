@@ -87,6 +87,7 @@ void TCustomQV7SkinComboBoxCustomDropDown::MakeLabel(int left) {
     SetHeight(std::max(InputMinHeight, label->GetHeight() + 2 * label->GetTop()));
     label->SetAnchors({akLeft, akTop, akRight});
     label->SetCaption(text);
+    label->SetEnabled(GetEnabled());
     label->OnMouseUp = {this, &TCustomQV7SkinComboBoxCustomDropDown::DoEditMouseUp};
     FLabel = label;
 }
@@ -107,14 +108,27 @@ void TCustomQV7SkinComboBoxCustomDropDown::DoButtonPaint(TObject*, TBitmap* Bitm
 }
 
 void TCustomQV7SkinComboBoxCustomDropDown::RepaintParts() {
+    NotifyAccessible(*this, EVENT_OBJECT_STATECHANGE);
     if (FButton) FButton->Repaint();
     Invalidate();
 }
 
+/// Screen readers are told what of a combo box they are told.
+TAccessibleFacts TCustomQV7SkinComboBoxCustomDropDown::GetAccessibleFacts() const {
+    TAccessibleFacts facts;
+    facts.Role = ROLE_SYSTEM_COMBOBOX;
+    facts.Value = GetText();
+    facts.State = STATE_SYSTEM_HASPOPUP | (FDroppedDown ? STATE_SYSTEM_EXPANDED : STATE_SYSTEM_COLLAPSED);
+    return facts;
+}
+
 void TCustomQV7SkinComboBoxCustomDropDown::Dispatch(TMessage& message) {
+    if (AnswerGetObject(*this, *this, message)) return;
     const TLifeGuard guard(*this);
     TCurvyPanel::Dispatch(message);
-    if (guard.IsAlive() && message.Msg == CM_ENABLEDCHANGED && FButton) FButton->Repaint();
+    if (!guard.IsAlive() || message.Msg != CM_ENABLEDCHANGED) return;
+    if (FLabel) FLabel->SetEnabled(GetEnabled());
+    if (FButton) FButton->Repaint();
 }
 
 // --- properties
@@ -127,6 +141,7 @@ void TCustomQV7SkinComboBoxCustomDropDown::SetTextBuf(const String& value) {
     if (!FLabel) return TCurvyPanel::SetTextBuf(value);
     FLabel->SetCaption(value);
     FLabel->Repaint();
+    NotifyAccessible(*this, EVENT_OBJECT_VALUECHANGE);
 }
 
 bool TCustomQV7SkinComboBoxCustomDropDown::GetDrawButtonLine() const {
@@ -182,6 +197,7 @@ void TCustomQV7SkinComboBoxCustomDropDown::SetDroppedDown(bool Value) {
     if (Value == FDroppedDown) return;
     FDroppedDown = Value;
     if (FButton) FButton->Repaint();
+    NotifyAccessible(*this, EVENT_OBJECT_STATECHANGE);
     const TLifeGuard guard(*this);
     if (Value) {
         OnDropDown(this);

@@ -3,6 +3,7 @@
 #include "explorerbar/UnitQV7SkinPopupForm.h"
 #include "inputs/Namespace.h"
 #include "platform/tms/CurvyPanel.h"
+#include "platform/vcl/controls/AccessibleControl.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "skin/surfaces/FlickerFreePaintBox.h"
 
@@ -18,7 +19,7 @@ namespace qv7skin {
 ///
 /// Text and button are made when the form file has been read (`Loaded`), never at design time; a control made
 /// in code gets them by `CreateParts`.
-class TCustomQV7SkinComboBoxCustomDropDown : public TCurvyPanel {
+class TCustomQV7SkinComboBoxCustomDropDown : public TCurvyPanel, private TAccessibleControl {
 public:
     explicit TCustomQV7SkinComboBoxCustomDropDown(TComponent* AOwner);
     ~TCustomQV7SkinComboBoxCustomDropDown() override;
@@ -83,6 +84,8 @@ protected:
     void ShowForm();
 
 private:
+    [[nodiscard]] TAccessibleFacts GetAccessibleFacts() const override;
+    void DoAccessibleAction() override { SetDroppedDown(!FDroppedDown); }
     void DetachForm();
     void RepaintParts();
     [[nodiscard]] bool IsMouseOnSelf() const;

@@ -47,6 +47,21 @@ TSkinStringId PatternOf(TDateOrder order) {
     }
 }
 
+/// The picture in light greys, as of something that does not work now.
+std::unique_ptr<TBitmap> PaleCopy(TBitmap& bitmap) {
+    auto pale = std::make_unique<TBitmap>(bitmap.GetWidth(), bitmap.GetHeight(), pf24bit);
+    for (int y = 0; y < bitmap.GetHeight(); ++y) {
+        for (int x = 0; x < bitmap.GetWidth(); ++x) {
+            const TColor color = bitmap.GetCanvas().GetPixel(x, y);
+            const unsigned light =
+                (30 * GetRValue(color) + 59 * GetGValue(color) + 11 * GetBValue(color)) / 100;
+            const unsigned grey = (light + 255) / 2;
+            pale->GetCanvas().SetPixel(x, y, RGB(grey, grey, grey));
+        }
+    }
+    return pale;
+}
+
 /// Letters for the day of the week, as many as the longest short name has.
 String DayNameMask() {
     std::size_t longest = 0;
@@ -169,8 +184,10 @@ void TCustomQV7SkinDateTimePicker::DoButtonPaint(TObject*, TBitmap* Bitmap) {
     canvas.GetBrush().SetColor(InputGround);
     canvas.FillRect(rect);
     canvas.FrameRect(rect);
-    canvas.Draw((client.Width() - FButtonBitmap->GetWidth()) / 2,
-                (client.Height() - FButtonBitmap->GetHeight()) / 2, FButtonBitmap.get());
+    if (!GetEnabled() && !FPaleButtonBitmap) FPaleButtonBitmap = PaleCopy(*FButtonBitmap);
+    TBitmap* picture = GetEnabled() ? FButtonBitmap.get() : FPaleButtonBitmap.get();
+    canvas.Draw((client.Width() - picture->GetWidth()) / 2, (client.Height() - picture->GetHeight()) / 2,
+                picture);
 }
 
 // --- opening and closing

@@ -61,6 +61,7 @@ private:
     bool FTextGrayed = false;
     bool FTextChanged = false;
     std::unique_ptr<TBitmap> FButtonBitmap;
+    std::unique_ptr<TBitmap> FPaleButtonBitmap;  ///< Of the disabled control; made when it is first shown.
     std::unique_ptr<TfrmQV7SkinDateTimePickerDropDown> FForm;
 };
 

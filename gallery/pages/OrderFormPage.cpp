@@ -9,6 +9,7 @@
 #include "inputs/UnitQV7SkinGroupBox.h"
 #include "inputs/UnitQV7SkinRadioButton.h"
 #include "inputs/UnitQV7SkinSpinEdit.h"
+#include "inputs/UnitQV7SkinTreeComboBox.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/stdctrls/Label.h"
 #include "platform/vcl/streaming/ClassRegistry.h"
@@ -54,7 +55,7 @@ public:
                          &TQV7SkinComboBox::StaticClass(), &TQV7SkinComboBoxCustomDropDown::StaticClass(),
                          &TQV7SkinDateTimePicker::StaticClass(), &TQV7SkinEdit::StaticClass(),
                          &TQV7SkinGroupBox::StaticClass(), &TQV7SkinRadioButton::StaticClass(),
-                         &TQV7SkinSpinEdit::StaticClass()});
+                         &TQV7SkinSpinEdit::StaticClass(), &TQV7SkinTreeComboBox::StaticClass()});
         InitInheritedComponent(*this, TGalleryPage::StaticClass());
         FShippingForm = std::make_unique<TShippingForm>(*FShipping);
         FShipping->SetDropDownForm(FShippingForm.get());
@@ -65,8 +66,20 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass() {
         static const TMetaClass meta =
             DefineClass<TOrderFormPage>(L"TOrderFormPage", TGalleryPage::StaticClass())
-                .Component<&TOrderFormPage::FShipping>(L"ShippingOn");
+                .Component<&TOrderFormPage::FShipping>(L"ShippingOn")
+                .Component<&TOrderFormPage::FDelivery>(L"DeliveryOn")
+                .Component<&TOrderFormPage::FCategory>(L"CategoryOn");
         return meta;
+    }
+
+    /// At rest, with the tree open, with the calendar open.
+    [[nodiscard]] int ShotCount() const override { return 3; }
+    void TakeShot(int shot, const std::function<void()>& take) override {
+        if (shot == 1) FCategory->GetComboBox()->SetDroppedDown(true);
+        if (shot == 2) FDelivery->SetDroppedDown(true);
+        TGalleryPage::TakeShot(shot, take);
+        if (shot == 1) FCategory->GetComboBox()->SetDroppedDown(false);
+        if (shot == 2) FDelivery->GetCalendarForm()->Close();
     }
 
 protected:
@@ -85,6 +98,8 @@ private:
     }
 
     TQV7SkinComboBoxCustomDropDown* FShipping = nullptr;
+    TQV7SkinDateTimePicker* FDelivery = nullptr;
+    TQV7SkinTreeComboBox* FCategory = nullptr;
     std::unique_ptr<TShippingForm> FShippingForm;
 };
 

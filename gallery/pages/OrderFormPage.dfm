@@ -94,9 +94,35 @@ object OrderFormPage: TOrderFormPage
     Height = 25
     Text = 'Standardversand bis zur Haust'#252'r'
   end
+  object LabelOn276: TLabel
+    Left = 24
+    Top = 282
+    Width = 80
+    Height = 13
+    Caption = 'Kategorie'
+  end
+  object CategoryOn: TQV7SkinTreeComboBox
+    Left = 114
+    Top = 276
+    Width = 200
+    Height = 25
+    Items.Strings = (
+      'Lebensmittel'
+      #9'Obst'
+      #9#9'Apfel'
+      #9#9'Birne'
+      #9'Gem'#252'se'
+      #9#9'Kohl'
+      #9#9'Spinat'
+      'B'#252'robedarf'
+      #9'Papier'
+      #9'Stifte'
+      'Sonstiges')
+    ItemIndex = 3
+  end
   object PaymentOn: TQV7SkinGroupBox
     Left = 24
-    Top = 280
+    Top = 316
     Width = 290
     Height = 76
     Caption = 'Zahlung'
@@ -118,7 +144,7 @@ object OrderFormPage: TOrderFormPage
   end
   object GiftOn: TQV7SkinCheckBox
     Left = 24
-    Top = 372
+    Top = 408
     Width = 200
     Height = 17
     Caption = 'Als &Geschenk verpacken'
@@ -225,9 +251,36 @@ object OrderFormPage: TOrderFormPage
     Text = 'Standardversand bis zur Haust'#252'r'
     Enabled = False
   end
+  object LabelOff276: TLabel
+    Left = 400
+    Top = 282
+    Width = 80
+    Height = 13
+    Caption = 'Kategorie'
+  end
+  object CategoryOff: TQV7SkinTreeComboBox
+    Left = 490
+    Top = 276
+    Width = 200
+    Height = 25
+    Items.Strings = (
+      'Lebensmittel'
+      #9'Obst'
+      #9#9'Apfel'
+      #9#9'Birne'
+      #9'Gem'#252'se'
+      #9#9'Kohl'
+      #9#9'Spinat'
+      'B'#252'robedarf'
+      #9'Papier'
+      #9'Stifte'
+      'Sonstiges')
+    ItemIndex = 3
+    Enabled = False
+  end
   object PaymentOff: TQV7SkinGroupBox
     Left = 400
-    Top = 280
+    Top = 316
     Width = 290
     Height = 76
     Caption = 'Zahlung'
@@ -252,7 +305,7 @@ object OrderFormPage: TOrderFormPage
   end
   object GiftOff: TQV7SkinCheckBox
     Left = 400
-    Top = 372
+    Top = 408
     Width = 200
     Height = 17
     Caption = 'Als &Geschenk verpacken'

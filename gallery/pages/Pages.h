@@ -22,6 +22,7 @@ namespace gallery {
 [[nodiscard]] TGalleryPage* CreateToolbarPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateCaptionHeadersPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateOrderFormPage(TComponent* owner);
+[[nodiscard]] TGalleryPage* CreatePopupFormsPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateGaugesPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateLinkLabelsPage(TComponent* owner);
 [[nodiscard]] TGalleryPage* CreateSplittersPage(TComponent* owner);

@@ -13,6 +13,7 @@ public:
 
 protected:
     [[nodiscard]] bool CheckedAfterClick() const override { return !GetChecked(); }
+    [[nodiscard]] int AccessibleRole() const override { return ROLE_SYSTEM_CHECKBUTTON; }
     void DrawSign() override { DrawCheckRect(); }
     /// Draws the square with its mark.
     virtual void DrawCheckRect();

@@ -20,6 +20,7 @@ protected:
     void Dispatch(TMessage& message) override;
     void KeyDown(WORD& key, TShiftState shift) override;
     [[nodiscard]] bool CheckedAfterClick() const override { return true; }
+    [[nodiscard]] int AccessibleRole() const override { return ROLE_SYSTEM_RADIOBUTTON; }
     void DrawSign() override { DrawRadio(); }
     void CheckedChanged() override;
     /// Draws the circle with its dot.

@@ -30,6 +30,7 @@ void TFlatToggle::SetChecked(bool Value) {
     FChecked = Value;
     Invalidate();
     const TLifeGuard guard(*this);
+    NotifyAccessible(*this, EVENT_OBJECT_STATECHANGE);
     CheckedChanged();
     if (guard.IsAlive() && !IsInState(csLoading)) TPushControl::Click();
 }
@@ -42,7 +43,18 @@ void TFlatToggle::Click() {
         SetChecked(checked);
 }
 
+TAccessibleFacts TFlatToggle::GetAccessibleFacts() const {
+    TAccessibleFacts facts;
+    facts.Name = StripHotkey(GetCaption());
+    facts.Role = AccessibleRole();
+    facts.State = GetChecked() ? STATE_SYSTEM_CHECKED : 0;
+    if (GetPushState() == pshPressed) facts.State |= STATE_SYSTEM_PRESSED;
+    facts.Action = CheckedAfterClick() ? L"Check" : L"Uncheck";
+    return facts;
+}
+
 void TFlatToggle::Dispatch(TMessage& message) {
+    if (AnswerGetObject(*this, *this, message)) return;
     // Enter is for the form's default button.
     const bool isEnter = message.CharCode() == VK_RETURN;
     if (isEnter && (message.Msg == CM_DIALOGKEY || message.Msg == CM_CHILDKEY))
@@ -66,7 +78,7 @@ TColor TFlatToggle::SignGround() const {
         case pshHot:
             return GetColors(FocusedColorIndex);
         default:
-            return IsFocusShown() ? GetColors(FocusedColorIndex) : GetColor();
+            return IsFocusShown() ? GetColors(FocusedColorIndex) : clWindow;
     }
 }
 

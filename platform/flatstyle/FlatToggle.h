@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/flatstyle/FlatColors.h"
+#include "platform/vcl/controls/AccessibleControl.h"
 #include "platform/vcl/stdctrls/PushControl.h"
 
 namespace flatstyle {
@@ -8,9 +9,11 @@ namespace flatstyle {
 /// What flat check boxes and radio buttons have in common: a sign of 13 pixels at the left, the caption
 /// beside it, and whether it is checked. The space bar, the access key and clicks check it.
 ///
+/// The sign's ground is that of editors (clWindow), so that it shows on a background of the line's colour.
+///
 /// Colours by index: 0 the sign's ground while the mouse or the focus is on the control (white at first), 1
 /// its ground while pressed (0x00C5D6D9), 2 the mark (black), 3 the line around the sign (0x008396A0).
-class TFlatToggle : public TPushControl {
+class TFlatToggle : public TPushControl, private TAccessibleControl {
 public:
     explicit TFlatToggle(TComponent* AOwner);
     [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
@@ -43,6 +46,8 @@ protected:
     [[nodiscard]] virtual bool CheckedAfterClick() const = 0;
     /// Draws the sign on `GetCanvas()`.
     virtual void DrawSign() = 0;
+    /// What screen readers call the control (ROLE_SYSTEM_...).
+    [[nodiscard]] virtual int AccessibleRole() const = 0;
     /// Called before a change of `Checked` is told.
     virtual void CheckedChanged() {}
 
@@ -54,6 +59,8 @@ protected:
     [[nodiscard]] TColor SignColor() const;
 
 private:
+    [[nodiscard]] TAccessibleFacts GetAccessibleFacts() const override;
+    void DoAccessibleAction() override { Click(); }
     void DrawCaption();
 
     TFlatColors<4> FColors{{clWhite, 0x00C5D6D9, clBlack, 0x008396A0}};

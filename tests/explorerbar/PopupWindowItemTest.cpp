@@ -56,6 +56,29 @@ TEST_F(PopupWindowItem, TheWindowStaysWhileTheMouseIsOnIt) {
     EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
 }
 
+TEST_F(PopupWindowItem, TheWindowStaysOnTheWayBackToTheItem) {
+    MoveTo(PopupItem());
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    MoveTo(PopupItem());
+    PumpAll();
+    EXPECT_TRUE(Window().GetVisible());
+}
+
+TEST_F(PopupWindowItem, LeavingToAnotherItemClosesIt) {
+    MoveTo(PopupItem());
+    EXPECT_TRUE(Window().GetVisible());
+    MoveTo(Item(0, 0));
+    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
+}
+
+TEST_F(PopupWindowItem, AHandlerOfLeavingMayLockTheWindow) {
+    PopupItem().OnLeave = [this](TObject*) { PopupItem().SetWindowLocked(true); };
+    MoveTo(PopupItem());
+    MoveTo(Item(0, 0));
+    PumpAll();
+    EXPECT_TRUE(Window().GetVisible());
+}
+
 TEST_F(PopupWindowItem, ALockedWindowStays) {
     PopupItem().SetWindowLocked(true);
     EXPECT_TRUE(PopupItem().GetWindowLocked());
@@ -121,6 +144,19 @@ TEST_F(PopupWindowItem, ReturnOpensItsWindowInsteadOfClicking) {
     int clicks = 0;
     PopupItem().OnClick = [&](TObject*) { ++clicks; };
     PopupItem().ReturnPressed();
+    EXPECT_TRUE(Window().GetVisible());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(PopupWindowItem, TheReturnKeyOpensTheFocusedOnesWindow) {
+    int clicks = 0;
+    PopupItem().OnClick = [&](TObject*) { ++clicks; };
+    Bar().SetFocus();
+    // Past the header and the link.
+    Input.KeyPress(VK_TAB);
+    Input.KeyPress(VK_TAB);
+    ASSERT_TRUE(PopupItem().IsFocused());
+    Input.KeyPress(VK_RETURN);
     EXPECT_TRUE(Window().GetVisible());
     EXPECT_EQ(clicks, 0);
 }

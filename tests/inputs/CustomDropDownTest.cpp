@@ -210,6 +210,29 @@ TEST_F(CustomDropDown, DisablingEngravesTheArrow) {
     EXPECT_GT(Shown(*Drop().GetButton()).Count(0), 3);
 }
 
+TEST_F(CustomDropDown, DisablingTurnsTheTextGrey) {
+    Drop().SetText(L"Text");
+    Drop().SetEnabled(false);
+    EXPECT_EQ(Shown(Drop()).Count(0), 0);
+    EXPECT_GT(Shown(Drop()).Count(ColorToRGB(clGrayText)), 5);
+    Drop().SetEnabled(true);
+    EXPECT_GT(Shown(Drop()).Count(0), 5);
+}
+
+TEST_F(CustomDropDown, ALongTextEndsInDotsBeforeTheButton) {
+    Drop().SetText(L"Ein Text, der viel laenger ist als das Feld breit");
+    const test::Pixels dotted = Shown(Drop());
+    Drop().SetText(L"Ein Text, der viel laenger ist als das Feld breit ist");
+    EXPECT_TRUE(test::SamePixels(Shown(Drop()), dotted));
+    Drop().GetLabel()->SetEllipsisPosition(epNone);
+    EXPECT_FALSE(test::SamePixels(Shown(Drop()), dotted));
+    // The button lies above the text.
+    EXPECT_EQ(::GetParent(Drop().GetButton()->GetHandle()), Drop().GetHandle());
+    const int left = Drop().GetButton()->GetLeft();
+    for (int y = 3; y < 22; ++y)
+        EXPECT_EQ(dotted.At(left, y), 0x00FFFFFFu) << y;
+}
+
 TEST_F(CustomDropDown, AnotherFormTakesThePlaceOfTheFirst) {
     TQV7SkinPopupForm& first = Popup();
     TQV7SkinPopupForm second(nullptr);

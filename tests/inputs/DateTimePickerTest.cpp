@@ -73,8 +73,16 @@ TEST_F(DateTimePicker, TheFormatFollowsTheLocale) {
 }
 
 TEST_F(DateTimePicker, EveryDateReadsBackInEveryLocale) {
-    for (const LCID locale : {LCID{0x0407}, LCID{0x0409}, LCID{0x0411}, LCID{0x040E}}) {
-        FormatSettings() = TFormatSettings::OfLocale(locale);
+    std::vector<TFormatSettings> locales;
+    for (const LCID locale : {LCID{0x0407}, LCID{0x0409}, LCID{0x0411}, LCID{0x040E}})
+        locales.push_back(TFormatSettings::OfLocale(locale));
+    TFormatSettings artificial = locales.front();
+    artificial.ShortDateFormat = L"--";
+    artificial.DateSeparator = L'~';
+    artificial.ShortDayNames = {L"Alpha", L"B", L"", L"D d", L"E.", L"\x0416", L"G"};
+    locales.push_back(artificial);
+    for (const TFormatSettings& locale : locales) {
+        FormatSettings() = locale;
         for (TDate date = EncodeDate(2024, 1, 1); date < EncodeDate(2025, 1, 1); ++date) {
             Picker().SetDate(date);
             const String text = Picker().GetText();
@@ -87,9 +95,19 @@ TEST_F(DateTimePicker, EveryDateReadsBackInEveryLocale) {
 }
 
 TEST_F(DateTimePicker, HostileTextsAreRepairedInSilence) {
-    const String hostile[] = {L"",        L"99.99.9999",        L"Mo, 31.2.2014", String(1 << 20, L'9'),
-                              L",",       L"\xD83D, \xDE00",    L"Mo 03.02.2014", L"Mo, 03/02/2014",
-                              L"morgen,", String(1 << 20, L',')};
+    const String hostile[] = {L"",
+                              L"99.99.9999",
+                              L"Mo, 31.2.2014",
+                              String(1 << 20, L'9'),
+                              L"31.2.",
+                              L"Mo, 31.2.",
+                              L"\xDE00\xD83D\xD83D",
+                              L",",
+                              L"\xD83D, \xDE00",
+                              L"Mo 03.02.2014",
+                              L"Mo, 03/02/2014",
+                              L"morgen,",
+                              String(1 << 20, L',')};
     Picker();
     for (const String& text : hostile) {
         Write(text);
@@ -226,6 +244,35 @@ TEST_F(DateTimePicker, TheButtonShowsItsPictureOnWhite) {
     const RECT picture = shown.Bounds([](COLORREF color) { return color != 0x00FFFFFF; });
     EXPECT_GE(picture.left, (33 - 14) / 2);
     EXPECT_LE(picture.right, (33 - 14) / 2 + 14);
+}
+
+TEST_F(DateTimePicker, DisablingTurnsTextAndPictureGrey) {
+    const auto isGrey = [](COLORREF color) {
+        return GetRValue(color) == GetGValue(color) && GetGValue(color) == GetBValue(color);
+    };
+    const auto isColoured = [&](COLORREF color) { return !isGrey(color); };
+    RECT coloured = Shown(*Picker().GetButton()).Bounds(isColoured);
+    EXPECT_FALSE(::IsRectEmpty(&coloured));
+    Picker().SetEnabled(false);
+    EXPECT_FALSE(Picker().GetLabel()->GetEnabled());
+    const test::Pixels shown = Shown(*Picker().GetButton());
+    coloured = shown.Bounds(isColoured);
+    EXPECT_TRUE(::IsRectEmpty(&coloured));
+    EXPECT_LT(shown.Count(0x00FFFFFF), 33 * 19);
+    EXPECT_EQ(shown.Count(0), 0);
+    EXPECT_GT(Shown(Picker()).Count(ColorToRGB(clGrayText)), 20);
+    Picker().SetEnabled(true);
+    EXPECT_TRUE(Picker().GetLabel()->GetEnabled());
+    EXPECT_GT(Shown(Picker()).Count(0), 20);
+}
+
+TEST_F(DateTimePicker, AWholeMonthShows) {
+    Open();
+    EXPECT_GE(Calendar().GetWidth(), Calendar().GetNeededSize().Width);
+    EXPECT_GE(Calendar().GetHeight(), Calendar().GetNeededSize().Height);
+    EXPECT_GE(Picker().GetCalendarForm()->GetClientWidth(), Calendar().GetWidth() - 2);
+    EXPECT_GE(Picker().GetCalendarForm()->GetClientHeight(), Calendar().GetHeight() - 2);
+    Input.KeyPress(VK_ESCAPE);
 }
 
 TEST_F(DateTimePicker, HasNoPartsAtDesignTime) {

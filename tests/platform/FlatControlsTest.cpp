@@ -54,7 +54,7 @@ TEST_F(FlatControls, ACheckBoxShowsItsColours) {
     test::Pixels shown = Shown(*box);
     EXPECT_EQ(shown.At(0, 2), 0x00444444u);  // the line
     EXPECT_EQ(shown.At(12, 14), 0x00444444u);
-    EXPECT_EQ(shown.At(6, 8), ColorToRGB(clBtnFace));
+    EXPECT_EQ(shown.At(6, 8), ColorToRGB(clWindow));
     EXPECT_EQ(shown.Count(0x00333333), 0);
     box->SetChecked(true);
     EXPECT_GT(Shown(*box).Count(0x00333333), 9);  // the mark

@@ -7,6 +7,25 @@
 #include "platform/vcl/core/MoveElement.h"
 
 namespace vcl {
+namespace {
+
+constexpr wchar_t Lower(wchar_t c) {
+    return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c;
+}
+
+/// True for texts whose equality no locale has its own rules for; comparing them needs no system call.
+bool IsPlain(StringView text) {
+    return std::ranges::all_of(text, [](wchar_t c) {
+        const wchar_t lower = Lower(c);
+        return c == L' ' || (c >= L'0' && c <= L'9') || (lower >= L'a' && lower <= L'z');
+    });
+}
+
+bool IsSamePlain(StringView a, StringView b) {
+    return a.size() == b.size() && std::ranges::equal(a, b, {}, Lower, Lower);
+}
+
+}  // namespace
 
 const TMetaClass& TStringList::StaticClass() {
     static const TMetaClass meta = DefineClass<TStringList>(L"TStringList", TStrings::StaticClass());
@@ -94,9 +113,16 @@ void TStringList::Exchange(int a, int b) {
 }
 
 int TStringList::IndexOf(StringView text) const {
-    if (!FSorted) return TStrings::IndexOf(text);
-    int index = 0;
-    return Find(text, index) ? index : -1;
+    if (FSorted) {
+        int index = 0;
+        return Find(text, index) ? index : -1;
+    }
+    const bool isPlain = IsPlain(text);
+    const auto place = std::ranges::find_if(FItems, [&](const TItem& item) {
+        return isPlain && IsPlain(item.Text) ? IsSamePlain(item.Text, text)
+                                             : CompareText(item.Text, text) == 0;
+    });
+    return place == FItems.end() ? -1 : static_cast<int>(place - FItems.begin());
 }
 
 void TStringList::SetSorted(bool value) {

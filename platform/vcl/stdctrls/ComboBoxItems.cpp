@@ -68,7 +68,9 @@ void TCustomComboBox::TItems::SetUpdateState(bool updating) {
 
 void TCustomComboBox::TItems::Show(int index, const String& text) {
     if (!FBox.HandleAllocated()) return;
-    if (FBox.Send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.c_str())) < 0)
+    // Straight to the list inside: the combo box would only hand it on.
+    if (::SendMessageW(FBox.FListWindow, LB_INSERTSTRING, static_cast<WPARAM>(index),
+                       reinterpret_cast<LPARAM>(text.c_str())) < 0)
         throw EOutOfResources(L"Insufficient memory for the list");
 }
 

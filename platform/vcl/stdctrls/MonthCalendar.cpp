@@ -139,6 +139,12 @@ void TMonthCalendar::SetWeekNumbers(bool value) {
     RecreateWnd();
 }
 
+TSize TMonthCalendar::GetNeededSize() {
+    RECT month{};
+    ::SendMessageW(GetHandle(), MCM_GETMINREQRECT, 0, reinterpret_cast<LPARAM>(&month));
+    return {static_cast<int>(month.right - month.left), static_cast<int>(month.bottom - month.top)};
+}
+
 void TMonthCalendar::ShowDate() {
     if (!HandleAllocated()) return;
     SYSTEMTIME time = ToSystemTime(FDate);

@@ -66,6 +66,8 @@ public:
     [[nodiscard]] bool GetShowToday() const { return FShowToday; }
     void SetShowToday(bool value);
     [[nodiscard]] bool GetWeekNumbers() const { return FWeekNumbers; }
+    /// The size in pixels that one whole month needs.
+    [[nodiscard]] TSize GetNeededSize();
     void SetWeekNumbers(bool value);
 
 protected:
