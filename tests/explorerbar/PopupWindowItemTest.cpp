@@ -56,29 +56,6 @@ TEST_F(PopupWindowItem, TheWindowStaysWhileTheMouseIsOnIt) {
     EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
 }
 
-TEST_F(PopupWindowItem, TheWindowStaysOnTheWayBackToTheItem) {
-    MoveTo(PopupItem());
-    Input.MoveTo(Window().GetHandle(), 40, 30);
-    MoveTo(PopupItem());
-    PumpAll();
-    EXPECT_TRUE(Window().GetVisible());
-}
-
-TEST_F(PopupWindowItem, LeavingToAnotherItemClosesIt) {
-    MoveTo(PopupItem());
-    EXPECT_TRUE(Window().GetVisible());
-    MoveTo(Item(0, 0));
-    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
-}
-
-TEST_F(PopupWindowItem, AHandlerOfLeavingMayLockTheWindow) {
-    PopupItem().OnLeave = [this](TObject*) { PopupItem().SetWindowLocked(true); };
-    MoveTo(PopupItem());
-    MoveTo(Item(0, 0));
-    PumpAll();
-    EXPECT_TRUE(Window().GetVisible());
-}
-
 TEST_F(PopupWindowItem, ALockedWindowStays) {
     PopupItem().SetWindowLocked(true);
     EXPECT_TRUE(PopupItem().GetWindowLocked());
