@@ -200,10 +200,16 @@ void TCustomQV7SkinComboBoxCustomDropDown::SetDroppedDown(bool Value) {
     NotifyAccessible(*this, EVENT_OBJECT_STATECHANGE);
     const TLifeGuard guard(*this);
     if (Value) {
-        OnDropDown(this);
-        if (!guard.IsAlive() || !FDropDownForm) return;
-        PrepareDropDown();
-        if (guard.IsAlive() && FDropDownForm) ShowForm();
+        try {
+            OnDropDown(this);
+            if (!guard.IsAlive() || !FDropDownForm) return;
+            PrepareDropDown();
+            if (guard.IsAlive() && FDropDownForm) ShowForm();
+        } catch (...) {
+            // Nothing dropped down, and the next click is to try again.
+            if (guard.IsAlive()) PutDroppedDown(false);
+            throw;
+        }
     } else {
         OnCloseUp(this);
         if (guard.IsAlive() && FDropDownForm) ::PostMessageW(FDropDownForm->GetHandle(), WM_CLOSE, 0, 0);

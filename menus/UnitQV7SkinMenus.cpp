@@ -79,6 +79,7 @@ void TQV7SkinPopupMenu::DoChange(TMenuItem* Source, bool Rebuild) {
 void TQV7SkinPopupMenu::Popup(int X, int Y) {
     const TLifeGuard guard(*this);
     SetOwnerDraw(ActivePainter() != nullptr);
+    if (!guard.IsAlive()) return;
     if (GetOwnerDraw()) ApplyCustomLayout();
     TPopupMenu::Popup(X, Y);
     AppServices().ProcessMessages();

@@ -174,7 +174,8 @@ void TCurvyEdit::Dispatch(TMessage& message) {
     if (!guard.IsAlive()) return;
     switch (message.Msg) {
         case WM_SETFOCUS:
-            if (FEdit->CanFocus()) FEdit->SetFocus();
+            // A handler may have closed the form, or moved the focus on.
+            if (Focused() && FEdit->CanFocus()) FEdit->SetFocus();
             return;
         case CM_FONTCHANGED:
             return PlaceEdit();

@@ -93,8 +93,10 @@ void TWinControl::KeyUp(WORD& key, TShiftState shift) {
 
 bool TWinControl::IsMenuKey(TMessage& message) {
     if (IsInState(csDesigning)) return false;
+    const TLifeGuard guard(*this);
     for (TControl* c = this; c; c = c->GetParent()) {
-        if (c->GetPopupMenu() && c->GetPopupMenu()->IsShortCut(message)) return true;
+        if (!c->GetPopupMenu()) continue;
+        if (c->GetPopupMenu()->IsShortCut(message) || !guard.IsAlive()) return true;
     }
     TParentForm* form = GetParentForm(this);
     return (form && form->IsShortCut(message)) || AppServices().IsShortCut(message);

@@ -157,7 +157,13 @@ int TApplication::MessageBox(const String& text, const String& caption, unsigned
 }
 
 void TApplication::ModalStarted() {
-    if (FModalLevel++ == 0) RaiseModal(true);
+    if (FModalLevel++ > 0) return;
+    try {
+        RaiseModal(true);
+    } catch (...) {
+        FModalLevel = 0;
+        throw;
+    }
 }
 
 void TApplication::ModalFinished() {

@@ -13,14 +13,18 @@ class TModalSurroundings {
 public:
     TModalSurroundings()
         : FActiveWindow(::GetActiveWindow()), FCursor(Screen().GetCursor()), FDisabled(nullptr) {
-        Screen().SetCursor(crDefault);
         Application().ModalStarted();
+        Screen().SetCursor(crDefault);
     }
     ~TModalSurroundings() {
         Screen().SetCursor(FCursor);
         EnableOthers();
         if (FActiveWindow && ::IsWindow(FActiveWindow)) ::SetActiveWindow(FActiveWindow);
-        Application().ModalFinished();
+        try {
+            Application().ModalFinished();
+        } catch (...) {
+            Application().HandleException(nullptr);
+        }
     }
     TModalSurroundings(const TModalSurroundings&) = delete;
     TModalSurroundings& operator=(const TModalSurroundings&) = delete;

@@ -62,9 +62,9 @@ void TPopupMenu::Popup(int x, int y) {
     const HMENU menu = GetHandle();
     FShown = true;
     ::TrackPopupMenuEx(menu, TrackFlags(), x, y, TPopupWindow::Handle(), nullptr);
+    EndMenuLoop();
     if (!guard.IsAlive()) return;
     FShown = false;
-    EndMenuLoop();
     OnClose(this);
 }
 

@@ -215,10 +215,18 @@ void TCustomTreeView::UpdateStateChanged(bool updating) {
 // --- messages
 
 void TCustomTreeView::WndProc(TMessage& message) {
-    const TLifeGuard guard(*this);
-    ++FMessages;
+    struct TCounted {
+        explicit TCounted(TCustomTreeView& tree) : Tree(tree), Guard(tree) { ++Tree.FMessages; }
+        ~TCounted() {
+            if (Guard.IsAlive()) --Tree.FMessages;
+        }
+        TCounted(const TCounted&) = delete;
+        TCounted& operator=(const TCounted&) = delete;
+        TCustomTreeView& Tree;
+        TLifeGuard Guard;
+    };
+    const TCounted counted(*this);
     TWinControl::WndProc(message);
-    if (guard.IsAlive()) --FMessages;
 }
 
 void TCustomTreeView::Dispatch(TMessage& message) {
