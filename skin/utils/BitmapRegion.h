@@ -10,7 +10,7 @@ class TBitmap;
 
 namespace qv7skin {
 
-/// The region of all pixels that are not magenta (0x00FF00FF); with `Inverse`, of those that are. See below.
+/// `BitmapToRegion` with magenta (0x00FF00FF) as the transparent colour.
 [[nodiscard]] TRegionHandle BitmapToRegion(const TBitmap* Bitmap, bool Inverse);
 /// The region of all pixels that do not have the transparent colour (a system colour is looked up); with
 /// `Inverse`, of those that have it. The caller owns it and releases it to the window that it gives it to. It
