@@ -26,6 +26,7 @@ bool IsButtonDown() {
     return ::GetKeyState(VK_LBUTTON) < 0 || ::GetKeyState(VK_RBUTTON) < 0;
 }
 
+/// While the mouse was held no window heard of its moves; the one below the pointer gets one to catch up.
 void TellWindowUnderPointer() {
     POINT pointer{};
     ::GetCursorPos(&pointer);

@@ -19,7 +19,7 @@ constexpr int ShortCutGap = 16;
 constexpr int MarkSize = 9;
 constexpr int LeastPictureWidth = 16;
 
-/// Sets a device context's ground mode back at the end.
+/// Lets texts stand without a ground of their own while it lives; then the brush fills again.
 class TClearGround {
 public:
     explicit TClearGround(TCanvas& canvas) : FCanvas(canvas) { FCanvas.GetBrush().SetStyle(bsClear); }
@@ -77,6 +77,33 @@ void DrawMark(TCanvas& canvas, const TRect& column, bool isRadio, TColor color) 
     }
 }
 
+void DrawLine(TCanvas& canvas, const TRect& rect) {
+    const int middle = (rect.Top + rect.Bottom) / 2;
+    canvas.GetPen().SetColor(clBtnShadow);
+    canvas.MoveTo(rect.Left + Margin / 2, middle);
+    canvas.LineTo(rect.Right - Margin / 2, middle);
+}
+
+/// The image or bitmap in the middle of the column; a frame around an image says that the item is checked.
+void DrawPicture(TCanvas& canvas, const TMenuItem& item, const TRect& column) {
+    const TSize size = PictureSize(item);
+    const int left = column.Left + (column.Width() - size.Width) / 2;
+    const int top = column.Top + (column.Height() - size.Height) / 2;
+    if (TCustomImageList* images = item.GetImageIndex() >= 0 ? item.GetImageList() : nullptr) {
+        if (item.GetChecked()) canvas.FrameRect(column);
+        images->Draw(canvas, left, top, item.GetImageIndex(), item.GetEnabled());
+    } else {
+        canvas.Draw(left, top, &item.GetBitmap());
+    }
+}
+
+void DrawTexts(TCanvas& canvas, TRect rect, StringView caption, StringView right, bool hidesAccel) {
+    const TClearGround ground(canvas);
+    const UINT common = DT_SINGLELINE | DT_VCENTER | (hidesAccel ? DT_HIDEPREFIX : 0U);
+    canvas.TextRect(rect, caption, common | DT_LEFT);
+    if (!right.empty()) canvas.TextRect(rect, right, common | DT_RIGHT | DT_NOPREFIX);
+}
+
 }  // namespace
 
 bool TMenuItem::IsOwnerDrawn() const {
@@ -127,47 +154,29 @@ void TMenuItem::Draw(TCanvas& canvas, const TRect& rect, TOwnerDrawState state) 
 void TMenuItem::DrawDefault(TCanvas& canvas, const TRect& rect, TOwnerDrawState state) {
     const bool inBar = IsInBar(*this);
     const bool selected = state.Contains(odSelected) || (inBar && state.Contains(odHotLight));
-    const bool grayed = state.Contains(odGrayed);
     canvas.GetBrush().SetStyle(bsSolid);
     canvas.GetBrush().SetColor(selected && !IsLine() ? clHighlight : (inBar ? clMenuBar : clMenu));
     canvas.FillRect(rect);
-    if (IsLine()) {
-        const int middle = (rect.Top + rect.Bottom) / 2;
-        canvas.GetPen().SetColor(clBtnShadow);
-        canvas.MoveTo(rect.Left + Margin / 2, middle);
-        canvas.LineTo(rect.Right - Margin / 2, middle);
-        return;
-    }
-    const TColor color = grayed ? clGrayText : (selected ? clHighlightText : clMenuText);
-    const TSize picture = PictureSize(*this);
+    if (IsLine()) return DrawLine(canvas, rect);
+
+    const TColor color = state.Contains(odGrayed) ? clGrayText : (selected ? clHighlightText : clMenuText);
     const bool hasPicture = (GetImageList() && FImageIndex >= 0) || IsBitmapStored();
     TRect column = rect;
     column.Left += inBar ? Margin : Margin / 2;
-    column.Right = column.Left + picture.Width + (inBar ? 0 : Margin);
-    if (hasPicture) {
-        const int left = column.Left + (column.Width() - picture.Width) / 2;
-        const int top = rect.Top + (rect.Height() - picture.Height) / 2;
-        if (TCustomImageList* images = FImageIndex >= 0 ? GetImageList() : nullptr) {
-            if (FChecked) canvas.FrameRect(column);
-            images->Draw(canvas, left, top, FImageIndex, FEnabled);
-        } else {
-            canvas.Draw(left, top, FBitmap.get());
-        }
-    } else if (FChecked && !inBar) {
+    column.Right = column.Left + PictureSize(*this).Width + (inBar ? 0 : Margin);
+    if (hasPicture)
+        DrawPicture(canvas, *this, column);
+    else if (FChecked && !inBar)
         DrawMark(canvas, column, FRadioItem, color);
-    }
 
     TFont& font = canvas.GetFont();
     font.SetColor(color);
     if (FDefault) font.SetStyle(font.GetStyle() + TFontStyles{fsBold});
-    const TClearGround ground(canvas);
     TRect text = rect;
     text.Left = inBar && !hasPicture ? rect.Left + Margin : column.Right + Margin;
     text.Right -= Margin;
-    const UINT common = DT_SINGLELINE | DT_VCENTER | (state.Contains(odNoAccel) ? DT_HIDEPREFIX : 0U);
-    canvas.TextRect(text, CaptionText(FCaption), common | DT_LEFT);
-    const String right = inBar ? String() : RightPart(*this);
-    if (!right.empty()) canvas.TextRect(text, right, common | DT_RIGHT | DT_NOPREFIX);
+    DrawTexts(canvas, text, CaptionText(FCaption), inBar ? String() : RightPart(*this),
+              state.Contains(odNoAccel));
 }
 
 }  // namespace vcl
