@@ -183,11 +183,12 @@ void TInspectorGrid::Resize() {
 void TInspectorGrid::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
     const TLifeGuard guard(*this);
     TCustomControl::MouseDown(button, shift, x, y);
-    if (!guard.IsAlive() || !FList || button != mbLeft) return;
+    if (!guard.IsAlive() || !FList || (button != mbLeft && button != mbRight)) return;
     const int index = y / LineHeight;
     if (index >= static_cast<int>(FList->Lines().size())) return;
     const TPropertyLine line = FList->Lines()[static_cast<std::size_t>(index)];
     Choose(line.Path);
+    if (button == mbRight) return ShowMenu({x, y});
     const int left = 4 + line.Depth * Indent;
     if (line.CanExpand && x >= left && x < left + ExpanderSize) {
         FList->SetExpanded(line.Path, !line.IsExpanded);
@@ -195,6 +196,31 @@ void TInspectorGrid::MouseDown(TMouseButton button, TShiftState shift, int x, in
     }
     if (HasButton(line) && ButtonRect(index).Contains({x, y})) return DropDown();
     if (FEditor->GetVisible()) FEditor->SetFocus();
+}
+
+void TInspectorGrid::AddToMenu(const wchar_t* caption, bool isEnabled, std::function<void()> command) {
+    auto* item = new TMenuItem(FMenu);
+    item->SetCaption(caption);
+    item->SetEnabled(isEnabled);
+    item->OnClick = [command = std::move(command)](TObject*) { command(); };
+    FMenu->GetItems().Add(item);
+}
+
+void TInspectorGrid::ShowMenu(TPoint place) {
+    const TPropertyLine* line = ChosenLine();
+    if (!line) return;
+    const bool canReset = !line->IsDefault && !line->IsReadOnly && line->Element < 0;
+    FMenu->GetItems().Clear();
+    AddToMenu(L"Auf &Vorgabe zurücksetzen", canReset, [this] { ResetChosen(); });
+    AddToMenu(L"&Bearbeiten …", HasValueEditor(*line), [this] {
+        if (const TPropertyLine* chosen = ChosenLine()) OnEditValue(*chosen);
+    });
+    place = ClientToScreen(place);
+    FMenu->Popup(place.X, place.Y);
+}
+
+void TInspectorGrid::ResetChosen() {
+    Try([this](const String& path) { FList->Reset(path); });
 }
 
 /// Edits in a window where there is one, opens and closes what holds others, else goes on to the next value.
@@ -272,11 +298,15 @@ void TInspectorGrid::Accept() {
 }
 
 void TInspectorGrid::SetValue(const String& text) {
+    Try([&](const String& path) { FList->SetText(path, text); });
+}
+
+/// Runs a change of the chosen line and tells why it was refused.
+void TInspectorGrid::Try(const std::function<void(const String& path)>& change) {
     const TLifeGuard guard(*this);
-    const String path = FChosen;
     FAccepting = true;
     try {
-        FList->SetText(path, text);
+        change(String(FChosen));
     } catch (const Exception& error) {
         FList->Refresh();
         OnRefused(error.Message());

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "designer/inspector/PropertyList.h"
 #include "platform/vcl/controls/CustomControl.h"
 
@@ -58,6 +60,10 @@ private:
     void EditorExit(TObject* sender);
     void ChooseBy(int delta);
     void DropDown();
+    void ShowMenu(TPoint place);
+    void AddToMenu(const wchar_t* caption, bool isEnabled, std::function<void()> command);
+    void ResetChosen();
+    void Try(const std::function<void(const String& path)>& change);
     void SetValue(const String& text);
     [[nodiscard]] TRect ButtonRect(int index) const;
     [[nodiscard]] bool HasButton(const TPropertyLine& line) const;
