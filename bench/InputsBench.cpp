@@ -2,6 +2,8 @@
 #include "inputs/UnitQV7SkinComboBox.h"
 #include "platform/vcl/forms/Form.h"
 
+#include <commctrl.h>
+
 namespace {
 
 using namespace qv7skin;

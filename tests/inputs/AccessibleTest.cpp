@@ -1,5 +1,7 @@
 #include <oleacc.h>
 
+#include <algorithm>
+
 #include "inputs/UnitQV7SkinCheckBox.h"
 #include "inputs/UnitQV7SkinDateTimePicker.h"
 #include "inputs/UnitQV7SkinRadioButton.h"

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/vcl/core/WindowsApi.h"
+
+#include <commctrl.h>
+
 #include "platform/vcl/core/LifeGuard.h"
 #include "platform/vcl/core/Persistent.h"
-#include "platform/vcl/core/WindowsApi.h"
 
 // Functions of the Windows headers by another name, which would rename members.
 #undef GetFirstChild
