@@ -57,6 +57,7 @@ void TDesignerWindow::MakeMenu() {
     AddItem(edit, L"&Ausschneiden", L"Ctrl+X", [this] { Cut(); });
     AddItem(edit, L"&Kopieren", L"Ctrl+C", [this] { Copy(); });
     AddItem(edit, L"&Einfügen", L"Ctrl+V", [this] { Paste(); });
+    FDeleteItem = &AddItem(edit, L"Lös&chen", L"Del", [this] { Delete(); });
     AddItem(edit, L"A&lles auswählen", L"Ctrl+A", [this] { ChooseAll(); });
     edit.NewBottomLine();
     AddItem(edit, L"U&mbenennen …", L"F2", [this] { RenameChosen(); });
@@ -66,6 +67,8 @@ void TDesignerWindow::MakeMenu() {
     TMenuItem& view = AddSubmenu(bar, L"&Formular");
     AddItem(view, L"&Vorschau", L"F9", [this] { Preview(); });
     AddItem(view, L"Als &Text", L"F12", [this] { ToggleText(); });
+    FMenu->OnBeforeExecuteShortCut = {this, &TDesignerWindow::LimitDeleteKey};
+    FMenu->OnAfterExecuteShortCut = {this, &TDesignerWindow::RestoreDeleteKey};
     UpdateRecentFiles(nullptr);
     FMenu->ApplyCustomLayout();
     SetMenu(FMenu);
@@ -122,6 +125,15 @@ void TDesignerWindow::UpdateRecentFiles(TObject*) {
                 [this, name] { OpenRecentFile(String(name)); });
     }
     FRecentItem->SetEnabled(!names.empty());
+}
+
+/// The key deletes components on the form only: elsewhere it belongs to what has the focus.
+void TDesignerWindow::LimitDeleteKey(TObject*) {
+    if (GetActiveControl() != FSurface) FDeleteItem->SetShortCut(scNone);
+}
+
+void TDesignerWindow::RestoreDeleteKey(TObject*) {
+    FDeleteItem->SetShortCut(ShortCut(VK_DELETE, {}));
 }
 
 void TDesignerWindow::UpdateMenu(TObject*) {

@@ -100,6 +100,8 @@ private:
     void MakeContextMenu();
     void AddArrangeItems(TMenuItem& parent);
     void UpdateMenu(TObject* sender);
+    void LimitDeleteKey(TObject* sender);
+    void RestoreDeleteKey(TObject* sender);
     void UpdateRecentFiles(TObject* sender);
 
     // DesignerCommands.cpp
@@ -136,6 +138,7 @@ private:
     TMenuItem* FUndoItem = nullptr;
     TMenuItem* FRedoItem = nullptr;
     TMenuItem* FRecentItem = nullptr;
+    TMenuItem* FDeleteItem = nullptr;
     std::vector<TMenuItem*> FEditItems;  ///< For components that have an editor.
     bool FUpdatingText = false;
 };

@@ -1,7 +1,12 @@
+#include <functional>
+#include <set>
+
 #include "explorerbar/UnitQV7SkinExplorerGroups.h"
 #include "explorerbar/UnitQV7SkinExplorerItems.h"
 #include "header/UnitQV7SkinHeaderItems.h"
 #include "platform/vcl/forms/Screen.h"
+#include "platform/vcl/menus/MenuItem.h"
+#include "platform/vcl/menus/ShortCuts.h"
 #include "platform/vcl/streaming/FormText.h"
 #include "tests/designer/DesignerWindowFixture.h"
 #include "tests/support/Pump.h"
@@ -96,6 +101,36 @@ TEST_F(DesignerWindowTest, UndoAndRedoWorkByKeys) {
     EXPECT_EQ(Document().Text(), before);
     Input.Chord({VK_CONTROL}, 'Y');
     EXPECT_EQ(Document().Text(), after);
+}
+
+TEST_F(DesignerWindowTest, TheDeleteKeyBelongsToWhatHasTheFocus) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    Input.ClickAt(FormWindow(), 30, 25);
+    ChooseLine(L"Caption");
+    Input.KeyPress(VK_HOME);
+    Input.KeyPress(VK_DELETE);
+    Input.KeyPress(VK_RETURN);
+    EXPECT_TRUE(TextHas("Caption = 'ertig'")) << Document().Text();
+    Window->Surface().SetFocus();
+    Input.KeyPress(VK_DELETE);
+    EXPECT_FALSE(TextHas("OkButton"));
+    Input.Chord({VK_CONTROL}, 'Z');
+    EXPECT_TRUE(TextHas("object OkButton"));
+}
+
+TEST_F(DesignerWindowTest, EveryEntryOfTheMenuHasAMnemonicOfItsOwn) {
+    const std::function<void(const TMenuItem&)> check = [&check](const TMenuItem& parent) {
+        std::set<wchar_t> letters;
+        for (int i = 0; i < parent.GetCount(); ++i) {
+            const TMenuItem& item = *parent[i];
+            if (item.IsLine()) continue;
+            const wchar_t letter = GetHotkey(item.GetCaption());
+            EXPECT_NE(letter, 0) << ToUtf8(item.GetCaption());
+            EXPECT_TRUE(letters.insert(letter).second) << ToUtf8(item.GetCaption());
+            check(item);
+        }
+    };
+    check(Window->MainMenu().GetItems());
 }
 
 TEST_F(DesignerWindowTest, ComponentsGoThroughTheClipboardAsText) {
