@@ -43,6 +43,13 @@ public:
         SelectObject(FDC, oldPen);
         DeleteObject(pen);
     }
+    void Dot(RECT r) const {
+        const HGDIOBJ brush = SelectObject(FDC, GetStockObject(BLACK_BRUSH));
+        const HGDIOBJ pen = SelectObject(FDC, GetStockObject(BLACK_PEN));
+        Ellipse(FDC, r.left, r.top, r.right, r.bottom);
+        SelectObject(FDC, pen);
+        SelectObject(FDC, brush);
+    }
     void Text(const TFont& font, const std::wstring& text, COLORREF color, RECT r, UINT flags) const {
         const HGDIOBJ old = SelectObject(FDC, font.GetHandle());
         SetTextColor(FDC, color);
@@ -297,6 +304,51 @@ TEST_F(MenuItemPainterTest, ACheckedRadioItemShowsADotInTheMiddleOfTheGutter) {
     EXPECT_EQ(shown.At(9, 21), Gutter);
     item->SetChecked(false);
     EXPECT_EQ(Draw(*item, {0, 10, 150, 40}).Count(clBlack), 0);
+}
+
+TEST_F(MenuItemPainterTest, TheDotIsAFilledEllipseOfEightPixels) {
+    TMenuItem* item = AddItem(L"");
+    item->SetRadioItem(true);
+    item->SetChecked(true);
+    const Pixels expected = Expected([&](const Reference& on) { on.Dot({9, 21, 17, 29}); });
+    const Pixels shown = Draw(*item, {0, 10, 150, 40});
+    for (int y = 10; y < 40; ++y)
+        for (int x = 0; x < 26; ++x)
+            EXPECT_EQ(shown.At(x, y) == clBlack, expected.At(x, y) == clBlack) << x << ", " << y;
+}
+
+TEST_F(MenuItemPainterTest, ADefaultItemIsDrawnInBold) {
+    Painter->GetTitleFont().SetStyle({});
+    Painter->SetIncludeGutter(false);
+    TMenuItem* item = AddItem(L"Caption", L"Description");
+    item->SetDefault(true);
+    TFont title;
+    title.Assign(&Painter->GetTitleFont());
+    title.SetStyle({fsBold});
+    TFont description;
+    description.Assign(&Painter->GetDescriptionFont());
+    description.SetStyle({fsBold});
+    const int captionHeight = TextSize(title, L"Caption").Height;
+    EXPECT_TRUE(SamePixels(
+        Draw(*item, {0, 0, 150, 50}), Expected([&](const Reference& on) {
+            on.Fill({0, 0, 150, 50}, ItemGround);
+            on.Text(title, L"Caption", 0, {4, 2, 146, 50}, DT_EXTERNALLEADING);
+            on.Text(description, L"Description", 0, {4, captionHeight + 4, 146, 50}, DT_EXTERNALLEADING);
+        })));
+    EXPECT_FALSE(Painter->GetTitleFont().GetStyle().Contains(fsBold));
+}
+
+TEST_F(MenuItemPainterTest, AHiddenDescriptionMovesTheCaptionDownAndKeepsTheTwoGradients) {
+    TMenuItem* item = AddItem(L"A", L"Description");
+    Painter->SetIncludeDescription(false);
+    Painter->SetIncludeGutter(false);
+    EXPECT_TRUE(SamePixels(Draw(*item, {0, 0, 150, 50}), Expected([&](const Reference& on) {
+                               on.Fill({0, 0, 150, 50}, ItemGround);
+                               on.Text(Painter->GetTitleFont(), L"A", 0, {4, 4, 146, 52}, DT_EXTERNALLEADING);
+                           })));
+    const int split = TextSize(Painter->GetTitleFont(), L"A").Height + 4;
+    EXPECT_EQ(Draw(*item, {0, 0, 150, 50}, true).At(100, split),
+              GradientRow(0, 49 - split, 0x00D8BAAB, 0x00EFE8E4));
 }
 
 TEST_F(MenuItemPainterTest, ACheckedItemShowsATick) {
