@@ -18,8 +18,9 @@ namespace designer {
 namespace {
 
 TPersistent* HeldBy(const TPropertyLine& line, const TPersistent& holder) {
-    return line.Row->Kind() == TPropertyKind::Nested ? std::get<TPersistent*>(line.Row->Get(holder))
-                                                     : nullptr;
+    return line.Row->Kind() == TPropertyKind::Nested
+               ? std::get<TPersistent*>(RowFor(*line.Row, holder).Get(holder))
+               : nullptr;
 }
 
 /// Runs a change on what each of the components holds, as one edit.
@@ -61,7 +62,7 @@ void EditColor(TDesignDocument& document, const TPropertyLine& line, TValueDialo
     if (!color) return;
     document.Edit(L"Eigenschaft ändern", [&] {
         for (TPersistent* holder : line.Holders)
-            line.Row->Set(*holder, static_cast<std::int64_t>(*color));
+            RowFor(*line.Row, *holder).Set(*holder, static_cast<std::int64_t>(*color));
     });
 }
 

@@ -1,6 +1,7 @@
 #include "designer/inspector/PropertyList.h"
 
 #include <algorithm>
+#include <span>
 
 #include "designer/inspector/PropertyText.h"
 #include "platform/vcl/core/Collection.h"
@@ -14,7 +15,7 @@ using THolders = std::vector<TPersistent*>;
 THolders HeldBy(const TPublishedProperty& row, const THolders& holders) {
     THolders held;
     for (TPersistent* holder : holders) {
-        TPersistent* object = std::get<TPersistent*>(row.Get(*holder));
+        TPersistent* object = std::get<TPersistent*>(RowFor(row, *holder).Get(*holder));
         if (!object) return {};
         held.push_back(object);
     }
@@ -31,6 +32,10 @@ bool CanLookInside(const TPublishedProperty& row, const THolders& holders) {
 
 std::int64_t BitsOf(const TPublishedProperty& row, const TPersistent& holder) {
     return std::get<std::int64_t>(row.Get(holder));
+}
+
+bool SameNames(std::span<const wchar_t* const> a, std::span<const wchar_t* const> b) {
+    return std::ranges::equal(a, b, [](StringView x, StringView y) { return x == y; });
 }
 
 bool IsAtDefault(const TPublishedProperty& row, TPersistent& holder, const TPersistent& model);
@@ -57,6 +62,11 @@ bool IsAtDefault(const TPublishedProperty& row, TPersistent& holder, const TPers
 }
 
 }  // namespace
+
+const TPublishedProperty& RowFor(const TPublishedProperty& row, const TPersistent& object) {
+    const TPublishedProperty* own = object.ClassType().FindProperty(row.Name());
+    return own ? *own : row;
+}
 
 const TPropertyLine* TPropertyList::Find(StringView path) const {
     const auto found =
@@ -158,7 +168,7 @@ void TPropertyList::Fill(TPropertyLine& line) const {
         if (TextOf(line, holder) != line.Text) line.IsMixed = true;
         TPersistent& model = *line.Models[i];
         const bool alike = line.Element >= 0 ? TextOf(line, model) == TextOf(line, holder)
-                                             : IsAtDefault(*line.Row, holder, model);
+                                             : IsAtDefault(RowFor(*line.Row, holder), holder, model);
         if (!alike) line.IsDefault = false;
     }
     if (line.IsMixed) line.Text.clear();
@@ -169,8 +179,9 @@ bool TPropertyList::IsFormPlace(const TPropertyLine& line, const TPersistent& ho
 }
 
 String TPropertyList::TextOf(const TPropertyLine& line, TPersistent& holder) const {
-    if (line.Element >= 0) return (BitsOf(*line.Row, holder) >> line.Element & 1) != 0 ? L"True" : L"False";
-    if (!IsFormPlace(line, holder)) return PropertyText(*line.Row, holder);
+    const TPublishedProperty& row = RowFor(*line.Row, holder);
+    if (line.Element >= 0) return (BitsOf(row, holder) >> line.Element & 1) != 0 ? L"True" : L"False";
+    if (!IsFormPlace(line, holder)) return PropertyText(row, holder);
     const TPoint place = FDocument.Form().Place();
     return IntToStr(line.Path == L"Left" ? place.X : place.Y);
 }
@@ -186,7 +197,8 @@ std::vector<const TPublishedProperty*> TPropertyList::CommonRows(const THolders&
     std::erase_if(rows, [&](const TPublishedProperty* row) {
         return !IsShown(*row, holders) || std::ranges::any_of(holders, [row](const TPersistent* holder) {
             const TPublishedProperty* other = holder->ClassType().FindProperty(row->Name());
-            return !other || other->Kind() != row->Kind() || other->EventType() != row->EventType();
+            return !other || other->Kind() != row->Kind() || other->EventType() != row->EventType() ||
+                   !SameNames(other->ElementNames(), row->ElementNames());
         });
     });
     std::ranges::stable_sort(
@@ -203,8 +215,7 @@ void TPropertyList::EditLine(const String& path, const std::function<void(const 
 }
 
 void TPropertyList::SetTextOf(const TPropertyLine& line, TPersistent& holder, const String& text) {
-    // Each of the components may have a row of its own.
-    const TPublishedProperty& row = *holder.ClassType().FindProperty(line.Row->Name());
+    const TPublishedProperty& row = RowFor(*line.Row, holder);
     if (line.Element >= 0) {
         const std::int64_t bit = std::int64_t{1} << line.Element;
         const std::int64_t bits = BitsOf(row, holder);
@@ -232,7 +243,7 @@ void TPropertyList::Reset(const String& path) {
     EditLine(path, [&](const TPropertyLine& line) {
         for (std::size_t i = 0; i < line.Holders.size(); ++i) {
             TPersistent* holder = line.Holders[i];
-            const TPublishedProperty& row = *holder->ClassType().FindProperty(line.Row->Name());
+            const TPublishedProperty& row = RowFor(*line.Row, *holder);
             if (row.Kind() == TPropertyKind::Event)
                 row.Event(*holder)->Clear();
             else if (row.Default())

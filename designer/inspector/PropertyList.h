@@ -29,6 +29,9 @@ struct TPropertyLine {
     bool IsExpanded = false;
 };
 
+/// The property of that name in the object's own class: several chosen components may have rows of their own.
+[[nodiscard]] const TPublishedProperty& RowFor(const TPublishedProperty& row, const TPersistent& object);
+
 /// What the object inspector shows and changes: the published properties, or events, that all chosen
 /// components have in common; without a choice those of the form.
 class TPropertyList {
