@@ -90,20 +90,25 @@ void TAutoSave::Discard() {
     ::DeleteFileW(PathOf(FName + WorkExtension).c_str());
 }
 
-std::vector<TLeftWork> TAutoSave::TakeLeftWork() {
+std::vector<TLeftWork> TAutoSave::LeftWork() const {
     std::vector<TLeftWork> left;
     for (const String& name : FilesLike(PathOf(String(L"*") + WorkExtension))) {
         const String stem = name.substr(0, name.size() - std::size(WorkExtension) + 1);
         if (stem == FName) continue;
         // Whoever gets the lock may take the work; the lock of a living program can't be had.
-        const TLock lock(PathOf(stem + LockExtension));
-        if (!lock.IsHeld()) continue;
+        auto lock = std::make_shared<TLock>(PathOf(stem + LockExtension));
+        if (!lock->IsHeld()) continue;
         const String path = PathOf(name);
-        left.push_back(Unpacked(ReadWholeFile(path), FileTimeOf(path)));
-        ::DeleteFileW(path.c_str());
+        TLeftWork& work = left.emplace_back(Unpacked(ReadWholeFile(path), FileTimeOf(path)));
+        work.Path = path;
+        work.Lock = std::move(lock);
     }
     std::ranges::sort(left, std::greater(), &TLeftWork::SavedAt);
     return left;
+}
+
+void TAutoSave::Forget(const TLeftWork& work) {
+    ::DeleteFileW(work.Path.c_str());
 }
 
 String TAutoSave::DefaultFolder() {

@@ -10,11 +10,14 @@
 
 namespace designer {
 
-/// Work that a designer left behind when it ended without saving.
+/// Work that a designer left behind when it ended without saving. It stays on the disk until it is forgotten,
+/// and nobody else is offered it while this lives.
 struct TLeftWork {
     String FileName;  ///< Of the form file; empty when it had none yet.
     std::string Text;
     unsigned long long SavedAt = 0;  ///< In the system's file time.
+    String Path;                     ///< Of the file that holds it.
+    std::shared_ptr<void> Lock;
 };
 
 /// Keeps the unsaved state of a form file in a folder of its own while it is edited, so that the next start
@@ -36,8 +39,10 @@ public:
     /// The state has been saved or given up.
     void Discard();
 
-    /// Takes what other programs have left, the latest first, and removes it from the folder.
-    [[nodiscard]] std::vector<TLeftWork> TakeLeftWork();
+    /// What other programs have left, the latest first.
+    [[nodiscard]] std::vector<TLeftWork> LeftWork() const;
+    /// Removes such work, which has been taken up or given up.
+    static void Forget(const TLeftWork& work);
 
     /// The user's folder for it.
     [[nodiscard]] static String DefaultFolder();

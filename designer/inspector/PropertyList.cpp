@@ -188,8 +188,9 @@ String TPropertyList::TextOf(const TPropertyLine& line, TPersistent& holder) con
 
 bool TPropertyList::IsShown(const TPublishedProperty& row, const THolders& holders) const {
     if ((row.Kind() == TPropertyKind::Event) != (FKind == TKind::Events)) return false;
-    // Names differ in any case.
-    return holders.size() == 1 || !SameText(row.Name(), L"Name");
+    // Names of components differ in any case.
+    return holders.size() == 1 || !dynamic_cast<const TComponent*>(holders.front()) ||
+           !SameText(row.Name(), L"Name");
 }
 
 std::vector<const TPublishedProperty*> TPropertyList::CommonRows(const THolders& holders) const {

@@ -19,25 +19,40 @@ void LoadPackage() {
     if (show) show();
 }
 
-vcl::String FileFromCommandLine() {
+/// designer [--kept FOLDER] [FILE]: where unsaved work is kept, and what to open.
+struct TArguments {
+    vcl::String KeptFolder;
+    vcl::String File;
+};
+
+TArguments ReadArguments() {
     int count = 0;
-    wchar_t** arguments = ::CommandLineToArgvW(::GetCommandLineW(), &count);
-    vcl::String file = count > 1 ? arguments[1] : L"";
-    ::LocalFree(arguments);
-    return file;
+    wchar_t** texts = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    TArguments arguments;
+    for (int i = 1; i < count; ++i) {
+        const vcl::String text = texts[i];
+        if (text == L"--kept" && i + 1 < count)
+            arguments.KeptFolder = texts[++i];
+        else
+            arguments.File = text;
+    }
+    ::LocalFree(texts);
+    if (arguments.KeptFolder.empty()) arguments.KeptFolder = designer::TAutoSave::DefaultFolder();
+    return arguments;
 }
 
 }  // namespace
 
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, PWSTR, int) {
     using namespace designer;
+    const TArguments arguments = ReadArguments();
     LoadPackage();
     RegisterStandardClasses();
     Application().SetTitle(L"QV7 Designer");
     auto* window =
-        new TDesignerWindow(&Application(), std::make_unique<TDesignerDialogs>(), TAutoSave::DefaultFolder());
+        new TDesignerWindow(&Application(), std::make_unique<TDesignerDialogs>(), arguments.KeptFolder);
     Application().SetMainForm(window);
-    if (const String file = FileFromCommandLine(); !file.empty()) window->OpenFile(file);
+    if (!arguments.File.empty()) window->OpenFile(arguments.File);
     window->Show();
     window->OfferLeftWork();
     Application().Run();

@@ -76,10 +76,18 @@ void TDesignerWindow::OpenRecentFile(const String& name) {
 }
 
 void TDesignerWindow::OfferLeftWork() {
-    for (const TLeftWork& work : FAutoSave.TakeLeftWork()) {
+    for (const TLeftWork& work : FAutoSave.LeftWork()) {
         const String title = work.FileName.empty() ? String(L"Unbenannt") : work.FileName;
-        if (!FDialogs->AskToRecover(title)) continue;
-        Try([&] { FFile.Recover(work.FileName, work.Text); });
+        if (!FDialogs->AskToRecover(title)) {
+            TAutoSave::Forget(work);
+            continue;
+        }
+        // It goes only when this program has kept it itself. What else was left waits for the next start.
+        Try([&] {
+            FFile.Recover(work.FileName, work.Text);
+            KeepWork();
+            TAutoSave::Forget(work);
+        });
         UpdateTitle();
         return;
     }

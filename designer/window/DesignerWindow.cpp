@@ -140,6 +140,7 @@ void TDesignerWindow::DocumentChanged() {
         FUpdatingText = false;
     }
     UpdateTitle();
+    KeepWorkInTime();
 }
 
 void TDesignerWindow::SelectionChanged() {
@@ -193,13 +194,27 @@ void TDesignerWindow::ShowContextMenu(TPoint screen) {
 }
 
 /// Keeps unsaved work for the case that the program ends without asking.
-void TDesignerWindow::ClockTimer(TObject*) {
-    if (FSurface->GetMouseCapture() || FKept == FDocument.Text()) return;
+void TDesignerWindow::KeepWork() {
+    FUnkeptSince.reset();
+    if (FKept == FDocument.Text()) return;
     if (FDocument.IsModified())
         FAutoSave.Keep(FFile.Name(), FDocument.Text());
     else
         FAutoSave.Discard();
     FKept = FDocument.Text();
+}
+
+void TDesignerWindow::ClockTimer(TObject*) {
+    if (!FSurface->GetMouseCapture()) KeepWork();
+}
+
+/// While edits come faster than they can be shown no timer runs.
+void TDesignerWindow::KeepWorkInTime() {
+    const ULONGLONG now = ::GetTickCount64();
+    if (!FUnkeptSince)
+        FUnkeptSince = now;
+    else if (now - *FUnkeptSince >= static_cast<ULONGLONG>(FClock->GetInterval()))
+        KeepWork();
 }
 
 /// Tells while the text is being written where it can't be parsed.

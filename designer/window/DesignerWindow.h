@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "designer/files/AutoSave.h"
 #include "designer/files/DesignFile.h"
@@ -91,6 +92,8 @@ private:
     void OpenItem(TComponent* item);
     void ShowContextMenu(TPoint screen);
     void ClockTimer(TObject* sender);
+    void KeepWork();
+    void KeepWorkInTime();
     void TextChange(TObject* sender);
     void WindowActivate(TObject* sender);
     void WindowCloseQuery(TObject* sender, bool& canClose);
@@ -119,7 +122,8 @@ private:
     TPropertyList FEvents;
     TAutoSave FAutoSave;
     TRecentFiles FRecent;
-    std::string FKept;  ///< What the autosave holds.
+    std::string FKept;                      ///< What the autosave holds.
+    std::optional<ULONGLONG> FUnkeptSince;  ///< The tick of the first edit that it does not hold.
 
     TQV7SkinToolbar* FToolbar = nullptr;
     TQV7SkinSimpleTabControl* FPaletteTabs = nullptr;

@@ -37,22 +37,27 @@ TEST_F(AutoSaveTest, TheWorkOfALivingProgramIsNotTaken) {
     TAutoSave first(Dir.Path());
     first.Keep(L"C:\\form.dfm", "text");
     TAutoSave second(Dir.Path());
-    EXPECT_TRUE(second.TakeLeftWork().empty());
-    EXPECT_TRUE(first.TakeLeftWork().empty()) << "nor its own";
+    EXPECT_TRUE(second.LeftWork().empty());
+    EXPECT_TRUE(first.LeftWork().empty()) << "nor its own";
 }
 
-TEST_F(AutoSaveTest, WorkWithoutALockIsOfferedOnceTheLatestFirst) {
+TEST_F(AutoSaveTest, WorkWithoutALockIsOfferedTheLatestFirst) {
     test::AgeFile(Dir.Write(L"1-a.arbeit", "C:\\Grüße.dfm\nobject A: TA\r\nend\r\n"));
     Dir.Write(L"2-b.arbeit", "\nobject B: TB\r\nend\r\n");
     TAutoSave save(Dir.Path());
-    const auto left = save.TakeLeftWork();
+    auto left = save.LeftWork();
     ASSERT_EQ(left.size(), 2u);
     EXPECT_EQ(left[0].FileName, L"");
     EXPECT_EQ(left[0].Text, "object B: TB\r\nend\r\n");
     EXPECT_EQ(left[1].FileName, FromUtf8("C:\\Grüße.dfm"));
     EXPECT_EQ(left[1].Text, "object A: TA\r\nend\r\n");
     EXPECT_GE(left[0].SavedAt, left[1].SavedAt);
-    EXPECT_TRUE(save.TakeLeftWork().empty());
+    EXPECT_TRUE(save.LeftWork().empty()) << "as long as somebody thinks about it";
+    TAutoSave::Forget(left[1]);
+    left.clear();
+    left = save.LeftWork();
+    ASSERT_EQ(left.size(), 1u) << "what was not forgotten is offered again";
+    EXPECT_EQ(left[0].FileName, L"");
 }
 
 TEST_F(AutoSaveTest, MakesItsFolder) {

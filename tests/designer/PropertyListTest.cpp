@@ -61,13 +61,14 @@ TEST_F(PropertyListTest, PropertiesThatOnlyShareANameAreNotShownTogether) {
     Begin(
         L"object Edit1: TQV7SkinEdit Left = 8 Top = 8 end\n"
         L"object Menu1: TQV7SkinPopupMenu end\n"
+        L"object Edit2: TEdit Left = 8 Top = 80 end\n"
         L"object Button1: TButton Left = 8 Top = 50 Width = 75 Height = 25 end\n");
     Choose({L"Edit1", L"Menu1"});
     Properties->Refresh();
     EXPECT_FALSE(Properties->Find(L"Alignment")) << "of a text and of a menu";
     Properties->SetText(L"Tag", L"5");
     EXPECT_EQ(Find(L"Menu1").GetTag(), 5);
-    Choose({L"Edit1", L"Button1"});
+    Choose({L"Edit2", L"Button1"});
     Properties->SetExpanded(L"Font", true);
     Properties->SetText(L"Font.Name", L"Arial");
     EXPECT_EQ(Find<TButton>(L"Button1").GetFont().GetName(), L"Arial");
