@@ -15,11 +15,15 @@ std::wstring DesktopName() {
     return name;
 }
 
-std::wstring CommandLine(std::wstring_view name, std::wstring_view arguments) {
+/// Where the test program stands, and all programs.
+std::filesystem::path OwnFolder() {
     wchar_t self[MAX_PATH] = {};
     GetModuleFileNameW(nullptr, self, MAX_PATH);
-    const auto program = std::filesystem::path(self).parent_path() / name;
-    return L"\"" + program.wstring() + L"\" " + std::wstring(arguments);
+    return std::filesystem::path(self).parent_path();
+}
+
+std::wstring CommandLine(std::wstring_view name, std::wstring_view arguments) {
+    return L"\"" + (OwnFolder() / name).wstring() + L"\" " + std::wstring(arguments);
 }
 
 /// A file that a program can inherit and write to.
@@ -29,14 +33,15 @@ HANDLE InheritedFile(const std::wstring& path) {
                        FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
-/// Starts a program; its handle for the process is null when that fails.
-PROCESS_INFORMATION Start(std::wstring_view name, std::wstring_view arguments, STARTUPINFOW& startup) {
+/// Starts a program in a folder (null: that of the test); its handle for the process is null when that fails.
+PROCESS_INFORMATION Start(std::wstring_view name, std::wstring_view arguments, const wchar_t* folder,
+                          STARTUPINFOW& startup) {
     std::wstring desktop = DesktopName();
     std::wstring commandLine = CommandLine(name, arguments);
     startup.cb = sizeof startup;
     startup.lpDesktop = desktop.data();
     PROCESS_INFORMATION process{};
-    CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup,
+    CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, folder, &startup,
                    &process);
     return process;
 }
@@ -79,7 +84,7 @@ ProgramRun RunProgram(std::wstring_view name, std::wstring_view arguments) {
     startup.dwFlags = STARTF_USESTDHANDLES;
     startup.hStdOutput = InheritedFile(folder.File(L"output"));
     startup.hStdError = InheritedFile(folder.File(L"errors"));
-    const PROCESS_INFORMATION process = Start(name, arguments, startup);
+    const PROCESS_INFORMATION process = Start(name, arguments, nullptr, startup);
     if (process.hProcess) {
         WaitForSingleObject(process.hProcess, INFINITE);
         GetExitCodeProcess(process.hProcess, &run.Code);
@@ -97,7 +102,7 @@ ProgramRun RunProgram(std::wstring_view name, std::wstring_view arguments) {
 
 RunningProgram::RunningProgram(std::wstring_view name, std::wstring_view arguments) {
     STARTUPINFOW startup{};
-    const PROCESS_INFORMATION process = Start(name, arguments, startup);
+    const PROCESS_INFORMATION process = Start(name, arguments, OwnFolder().c_str(), startup);
     FProcess = process.hProcess;
     FId = process.dwProcessId;
     if (process.hThread) CloseHandle(process.hThread);
@@ -111,6 +116,11 @@ RunningProgram::~RunningProgram() {
 
 bool RunningProgram::IsRunning() const {
     return FProcess && WaitForSingleObject(FProcess, 0) == WAIT_TIMEOUT;
+}
+
+bool RunningProgram::HasEndedWith(DWORD code) const {
+    DWORD actual = STILL_ACTIVE;
+    return !IsRunning() && GetExitCodeProcess(FProcess, &actual) && actual == code;
 }
 
 void RunningProgram::Kill() {

@@ -18,7 +18,8 @@ struct ProgramRun {
 /// `arguments` is the command line behind the program's name.
 ProgramRun RunProgram(std::wstring_view name, std::wstring_view arguments);
 
-/// A program of ours while it runs, on the desktop of the test. What still runs at the end is killed.
+/// A program of ours while it runs, on the desktop of the test and in the folder of the programs. What still
+/// runs at the end is killed.
 class RunningProgram {
 public:
     RunningProgram(std::wstring_view name, std::wstring_view arguments);
@@ -27,6 +28,7 @@ public:
     RunningProgram& operator=(const RunningProgram&) = delete;
 
     [[nodiscard]] bool IsRunning() const;
+    [[nodiscard]] bool HasEndedWith(DWORD code) const;
     /// Ends it at once, without any chance to tidy up, and waits until it is gone.
     void Kill();
     /// Its first visible window, at any depth, of that class and with that in its text; null when there is
