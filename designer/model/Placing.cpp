@@ -5,6 +5,7 @@
 
 #include "designer/model/Naming.h"
 #include "platform/vcl/core/MetaClass.h"
+#include "platform/vcl/streaming/UnknownComponent.h"
 
 namespace designer {
 namespace {
@@ -23,6 +24,47 @@ void PutControl(TControl& control, TWinControl& parent, const TRect& place) {
         control.SetBounds(place.Left, place.Top, control.GetWidth(), control.GetHeight());
     else
         control.SetBoundsRect(place);
+}
+
+/// Where the parents of a component of an unknown class stand on the form, all together.
+TPoint OriginOf(const TUnknownComponent& unknown) {
+    TPoint origin;
+    for (const TComponent* parent = unknown.GetParentComponent(); parent != unknown.GetOwner();
+         parent = parent->GetParentComponent()) {
+        const auto* control = dynamic_cast<const TControl*>(parent);
+        if (!control) break;
+        origin.X += control->GetLeft();
+        origin.Y += control->GetTop();
+    }
+    return origin;
+}
+
+int NumberIn(const TFormObject& object, StringView name) {
+    const TFormProperty* property = object.FindProperty(name);
+    const auto* number = property ? property->Value.As<std::int64_t>() : nullptr;
+    return number ? static_cast<int>(*number) : 0;
+}
+
+void SetNumberIn(TFormObject& object, const wchar_t* name, std::int64_t value) {
+    const auto place = std::ranges::find_if(
+        object.Properties, [name](const TFormProperty& property) { return SameText(property.Name, name); });
+    if (place != object.Properties.end())
+        place->Value.Content = value;
+    else if (value != 0)
+        object.Properties.push_back({name, {value, {}}, {}});
+}
+
+TPoint PlaceInFile(const TUnknownComponent& unknown) {
+    TPoint place = OriginOf(unknown);
+    place.X += NumberIn(unknown.GetObject(), L"Left");
+    place.Y += NumberIn(unknown.GetObject(), L"Top");
+    return place;
+}
+
+void SetPlaceInFile(TUnknownComponent& unknown, TPoint place) {
+    const TPoint origin = OriginOf(unknown);
+    SetNumberIn(unknown.GetObject(), L"Left", place.X - origin.X);
+    SetNumberIn(unknown.GetObject(), L"Top", place.Y - origin.Y);
 }
 
 }  // namespace
@@ -70,11 +112,14 @@ void Rename(TDesignDocument& document, TComponent& component, const String& name
 }
 
 TPoint DesignPlace(const TComponent& component) {
+    if (const auto* unknown = dynamic_cast<const TUnknownComponent*>(&component))
+        return PlaceInFile(*unknown);
     const auto info = static_cast<std::uint32_t>(component.GetDesignInfo());
     return {static_cast<std::int16_t>(info & 0xFFFF), static_cast<std::int16_t>(info >> 16)};
 }
 
 void SetDesignPlace(TComponent& component, TPoint place) {
+    if (auto* unknown = dynamic_cast<TUnknownComponent*>(&component)) return SetPlaceInFile(*unknown, place);
     const auto low = static_cast<std::uint32_t>(place.X) & 0xFFFF;
     component.SetDesignInfo(static_cast<std::int32_t>(low | static_cast<std::uint32_t>(place.Y) << 16));
 }

@@ -1,5 +1,8 @@
 // What the commands of menus and toolbar do.
 
+#include <algorithm>
+#include <cstdint>
+
 #include "designer/dialogs/ComponentEditors.h"
 #include "designer/dialogs/TabOrderDialog.h"
 #include "designer/files/SafeFile.h"
@@ -184,10 +187,21 @@ bool TDesignerWindow::AcceptText() {
     if (!ShowsText()) return true;
     bool accepted = false;
     Try([&] {
-        FDocument.SetText(L"Text ändern", ToUtf8(FTextMemo->GetText()));
-        accepted = true;
+        try {
+            FDocument.SetText(L"Text ändern", ToUtf8(FTextMemo->GetText()));
+            accepted = true;
+        } catch (const EFormError& error) {
+            ShowTextPosition(error.Problem().Position);
+            throw;
+        }
     });
     return accepted;
+}
+
+void TDesignerWindow::ShowTextPosition(TFormPosition position) {
+    const auto fromZero = [](std::uint32_t number) { return static_cast<int>(std::max(number, 1u)) - 1; };
+    FTextMemo->SetCaretPos({fromZero(position.Column), fromZero(position.Line)});
+    FTextMemo->Perform(EM_SCROLLCARET);
 }
 
 void TDesignerWindow::ToggleText() {

@@ -113,6 +113,7 @@ private:
     void OpenRecentFile(const String& name);
     [[nodiscard]] bool MayLeave();
     [[nodiscard]] bool AcceptText();
+    void ShowTextPosition(TFormPosition position);
 
     std::unique_ptr<TDesignerDialogs> FDialogs;
     std::unique_ptr<TValueDialogs> FValueDialogs;

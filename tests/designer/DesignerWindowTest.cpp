@@ -165,6 +165,18 @@ TEST_F(DesignerWindowTest, TheTextCanBeEditedAndSaysWhereItIsWrong) {
     EXPECT_TRUE(TextHas("Caption = 'Fertig'"));
 }
 
+TEST_F(DesignerWindowTest, TheCaretGoesWhereTheTextIsWrong) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    Input.KeyPress(VK_F12);
+    String text = Window->TextMemo().GetText();
+    const std::size_t place = text.find(L"80");
+    text.insert(place, L"= ");
+    Window->TextMemo().SetText(text);
+    Input.KeyPress(VK_F12);
+    EXPECT_EQ(Answers.Errors.size(), 1u);
+    EXPECT_EQ(Window->TextMemo().GetSelStart(), static_cast<int>(place));
+}
+
 TEST_F(DesignerWindowTest, ClosingAsksForUnsavedChanges) {
     Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
     EXPECT_TRUE(Window->CloseQuery());

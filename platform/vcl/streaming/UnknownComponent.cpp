@@ -17,6 +17,11 @@ TUnknownComponent::TUnknownComponent(TComponent* AOwner, TComponent* parent, int
     if (parent) parent->FreeNotification(this);
 }
 
+void TUnknownComponent::SetName(const String& value) {
+    TComponent::SetName(value);
+    FObject.Name = value;
+}
+
 void TUnknownComponent::Notification(TComponent* component, TOperation operation) {
     TComponent::Notification(component, operation);
     if (operation == opRemove && component == FParent) FParent = nullptr;

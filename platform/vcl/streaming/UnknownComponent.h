@@ -15,6 +15,9 @@ public:
     [[nodiscard]] static const TMetaClass& StaticClass();
 
     [[nodiscard]] const TFormObject& GetObject() const { return FObject; }
+    /// The same to be changed; its name is changed by `SetName`.
+    [[nodiscard]] TFormObject& GetObject() { return FObject; }
+    void SetName(const String& value) override;
     [[nodiscard]] int GetIndex() const { return FIndex; }
     /// Null when that component has been freed.
     [[nodiscard]] TComponent* GetParentComponent() const override { return FParent; }
