@@ -30,6 +30,7 @@ public:
         FTaskBar = AddBar(20, 236);
         FLongBar = AddBar(274, NarrowBar);
         FTextBar = AddBar(532, 208);
+        FTextBar->SetGroupIcons(nullptr);
         FLast = new TLabel(this);
         FLast->SetBounds(20, 600, 480, 16);
         FLast->SetParent(this);

@@ -37,7 +37,9 @@ void AddTasks(TQV7SkinExplorerGroup& group, const TNotifyEvent& clicked) {
 }
 
 TQV7SkinExplorerItemBmp* AddDetails(TQV7SkinExplorerGroup& group, const TNotifyEvent& clicked) {
+    group.SetGroupIconIndex(siInfo);
     Add(group, new TText(L"Bergsee.jpg", clBlack, {fsBold}, false));
+    Add(group, new TSeparator(4));
     TBitmap picture;
     DrawSamplePicture(picture, 320, 180);
     auto* preview = Add(group, new TQV7SkinExplorerItemBmp(&picture));
@@ -56,6 +58,7 @@ TQV7SkinExplorerItemBmp* AddDetails(TQV7SkinExplorerGroup& group, const TNotifyE
 }
 
 void AddOptions(TQV7SkinExplorerGroup& group, TQV7SkinExplorerItemBmp* preview) {
+    group.SetGroupIconIndex(siDocument);
     Add(group, new TCheck(L"Vorschau anzeigen", 0, NoHint, true, true, true))->OnClick =
         [preview](TObject* sender) { preview->SetVisible(static_cast<TCheck*>(sender)->GetChecked()); };
     Add(group, new TCheck(L"Unterordner einschließen, auch verborgene", 0, NoHint, false, true, true));
@@ -72,6 +75,7 @@ TTaskBarItems FillTaskBar(TQV7SkinExplorerBar& bar, const TNotifyEvent& Clicked)
     items.Preview = AddDetails(*bar.GetGroups().Add(L"Details", false), Clicked);
     AddOptions(*bar.GetGroups().Add(L"Optionen", false), items.Preview);
     TQV7SkinExplorerGroup& copy = *bar.GetGroups().Add(L"Kopiervorgang", false);
+    copy.SetGroupIconIndex(siFolder);
     items.CopyText = Add(copy, new TText(L"Noch nichts kopiert", clBlack, {}, true));
     Add(copy, new TSeparator(4));
     items.CopyProgress =
@@ -113,7 +117,7 @@ void FillTextBar(TQV7SkinExplorerBar& bar, const TNotifyEvent& Clicked) {
     Add(cut, new TBlock(L"Kurz:", L"Der Block beginnt in der Spalte der Gruppe"));
     Add(cut, new TBlock(L"Etwas länger:", L"Der Block daneben"));
 
-    TQV7SkinExplorerGroup& lines = *bar.GetGroups().Add(L"Trenner und Verborgenes", true);
+    TQV7SkinExplorerGroup& lines = *bar.GetGroups().Add(L"Trenner und Verborgenes", false);
     Add(lines, new TSeparator(30));
     Add(lines, new TText(L"Davor steht ein Trenner,"));
     Add(lines, new TText(L"hier ein verborgener Text"))->SetVisible(false);
