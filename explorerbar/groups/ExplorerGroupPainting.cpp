@@ -114,7 +114,9 @@ void TQV7SkinExplorerGroup::DrawItems(TBitmap& Bitmap, int Left, const TRect& Ar
         if (!(*FItems)[i]->GetShown()) continue;
         int left = Left;
         int top = ItemTop(i);
+        const bool hot = (*FItems)[i]->IsHotArea();
         DrawItem(Bitmap, i, left, top);
+        if (hot) FSkin->KeepHotFont(Bitmap.GetCanvas().GetFont().GetShared());
         // Whatever an item takes when it is painted counts.
         const int change = top - FItemsTop - FBottoms[static_cast<std::size_t>(i)];
         if (change == 0) continue;

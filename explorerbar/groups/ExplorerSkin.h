@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "platform/vcl/graphics/Bitmap.h"
+#include "platform/vcl/graphics/Font.h"
 #include "skin/UnitQV7SkinConsts.h"
 #include "skin/utils/TransparentBitmap.h"
 
@@ -22,8 +23,11 @@ public:
     /// The button of a closed or an open group: `ssDefault`, `ssHovered` or `ssDisabled`.
     [[nodiscard]] const TTransparentBitmap& Button(bool closed, TSkinState state) const;
     [[nodiscard]] TSize ButtonSize() const;
+    /// Keeps the font of the item under the mouse, which is wanted again as soon as the mouse moves on.
+    void KeepHotFont(const TSharedFont& font) const { FHotFont = font; }
 
 private:
+    mutable TSharedFont FHotFont;
     std::unique_ptr<TBitmap> FHeaderTop;
     std::unique_ptr<TBitmap> FHeaderBottom;
     std::array<std::unique_ptr<TTransparentBitmap>, 4> FMaximize;

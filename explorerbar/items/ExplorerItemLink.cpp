@@ -45,6 +45,11 @@ TQV7SkinExplorerItemLink::TQV7SkinExplorerItemLink(const String& Caption, const 
 
 TQV7SkinExplorerItemLink::~TQV7SkinExplorerItemLink() = default;
 
+void TQV7SkinExplorerItemLink::SetCaption(const String& Value) {
+    FCaptionWidthClass = 0;
+    Change(FCaption, Value, true);
+}
+
 void TQV7SkinExplorerItemLink::SetIcon(const TBitmap* Value) {
     if (Value) {
         if (!FIcon) FIcon = std::make_unique<TBitmap>();
@@ -95,6 +100,22 @@ void TQV7SkinExplorerItemLink::DrawIcon(TCanvas& Canvas, int x, int y) const {
         icons->Draw(Canvas, x, y, FIconIndex, true);
 }
 
+/// Under the mouse and elsewhere a caption is as wide, and it is painted far more often than it changes.
+int TQV7SkinExplorerItemLink::CaptionWidth(TCanvas& Canvas) {
+    const int widthClass = WidthClass(Canvas);
+    if (FCaptionWidthClass != widthClass) {
+        FCaptionWidth = Canvas.TextWidth(FCaption);
+        FCaptionWidthClass = widthClass;
+    }
+    return FCaptionWidth;
+}
+
+/// Whether the caption is painted whole in a row of that width.
+bool TQV7SkinExplorerItemLink::IsOneRow(TCanvas& Canvas, int Limit) {
+    if (!FWordWrap) return CaptionWidth(Canvas) <= Limit;
+    return FCaption.find(L'\r') == String::npos && CaptionWidth(Canvas) < Limit;
+}
+
 void TQV7SkinExplorerItemLink::Run(TBitmap& Bitmap, int Left, int& Top, int Width, TPass Pass) {
     const bool painting = Pass == TPass::Paint;
     TCanvas& canvas = Bitmap.GetCanvas();
@@ -123,11 +144,13 @@ void TQV7SkinExplorerItemLink::Run(TBitmap& Bitmap, int Left, int& Top, int Widt
         widest = std::max(widest, row.Width);
         Top += lineHeight + 1;
     };
-    const int limit = groupWidth - 10 - indent;
+    const int limit = groupWidth - 10 - indent + (FWordWrap ? Left : 0);
     if (Pass == TPass::Measure)
-        Top += (FWordWrap ? CountRows(canvas, FCaption, limit + Left) : 1) * (lineHeight + 1);
+        Top += (FWordWrap ? CountRows(canvas, FCaption, limit) : 1) * (lineHeight + 1);
+    else if (IsOneRow(canvas, limit))
+        use({FCaption, false, CaptionWidth(canvas)});
     else if (FWordWrap)
-        ForEachRow(canvas, FCaption, limit + Left, use);
+        ForEachRow(canvas, FCaption, limit, use);
     else
         use(CutRow(canvas, FCaption, limit));
     if (icon.Height > 0) Top = std::max(Top, iconTop + icon.Height + 2);
@@ -140,7 +163,7 @@ void TQV7SkinExplorerItemLink::Run(TBitmap& Bitmap, int Left, int& Top, int Widt
 TColumns TQV7SkinExplorerItemLink::HotColumns(int Width) const {
     if (FClipRect.IsEmpty()) return {0, Width};
     // Slanted letters may reach beyond the text.
-    const int margin = FClipRect.Height();
+    const int margin = FClipRect.Height() / 3;
     return {std::max(FClipRect.Left - margin, 0), std::min(FClipRect.Right + margin, Width)};
 }
 

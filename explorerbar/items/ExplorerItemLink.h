@@ -21,7 +21,7 @@ public:
     ~TQV7SkinExplorerItemLink() override;
 
     [[nodiscard]] const String& GetCaption() const { return FCaption; }
-    void SetCaption(const String& Value) { Change(FCaption, Value, true); }
+    void SetCaption(const String& Value);
     void SetHint(const String& Value) override { Change(FHint, Value, true); }
     /// The item's own icon, or null. It comes before `IconIndex`.
     [[nodiscard]] const TBitmap* GetIcon() const { return FIcon.get(); }
@@ -54,12 +54,16 @@ private:
     enum class TPass { Paint, Place, Measure };
     void Run(TBitmap& Bitmap, int Left, int& Top, int Width, TPass Pass);
     [[nodiscard]] TSize IconSize() const;
+    [[nodiscard]] int CaptionWidth(TCanvas& Canvas);
+    [[nodiscard]] bool IsOneRow(TCanvas& Canvas, int Limit);
     void DrawIcon(TCanvas& Canvas, int x, int y) const;
     void PrepareIcon();
 
     String FCaption;
     std::unique_ptr<TBitmap> FIcon;
     int FIconIndex = -1;
+    int FCaptionWidth = 0;
+    int FCaptionWidthClass = 0;  ///< The class of fonts that the width is known for; 0: it is not.
     bool FWordWrap = true;
     TFontStyles FFontStyle;
     TColor FTransparentColor = clNone;

@@ -1,6 +1,7 @@
 #include "explorerbar/items/FontFacts.h"
 
 #include <array>
+#include <cstring>
 #include <memory>
 
 #include "platform/vcl/graphics/Canvas.h"
@@ -21,8 +22,10 @@ bool IsPlain(wchar_t c) {
 /// What was found out about a font.
 struct TFontFacts {
     std::weak_ptr<const TFontHandle> Font;  ///< Watched, not kept alive.
+    LOGFONTW Looks{};                       ///< Without lines.
     int LineHeight = 0;
-    int Slack = 0;  ///< What the last letter may reach beyond its width.
+    int WidthClass = 0;
+    int Slack = Unknown;  ///< What the last letter may reach beyond its width.
     std::array<int, LastPlain - FirstPlain + 1> Widths{};
 
     [[nodiscard]] bool AreOf(const TSharedFont& font) const {
@@ -30,7 +33,13 @@ struct TFontFacts {
     }
     void FindOut(TCanvas& canvas) {
         Font = canvas.GetFont().GetShared();
+        Looks = canvas.GetFont().GetLogFont();
+        Looks.lfUnderline = Looks.lfStrikeOut = 0;
         LineHeight = canvas.TextHeight(L"A");
+        Slack = Unknown;
+    }
+    void NeedWidths(TCanvas& canvas) {
+        if (Slack != Unknown) return;
         const TEXTMETRICW metrics = canvas.TextMetrics();
         Slack = metrics.tmMaxCharWidth + metrics.tmOverhang;
         Widths.fill(Unknown);
@@ -52,6 +61,12 @@ TFontFacts& FactsFor(TCanvas& canvas) {
         if (facts.AreOf(font)) return facts;
     TFontFacts& facts = known[oldest++ % known.size()];
     facts.FindOut(canvas);
+    static int classes = 0;
+    facts.WidthClass = 0;
+    for (const TFontFacts& other : known)
+        if (&other != &facts && std::memcmp(&other.Looks, &facts.Looks, sizeof facts.Looks) == 0)
+            facts.WidthClass = other.WidthClass;
+    if (facts.WidthClass == 0) facts.WidthClass = ++classes;
     return facts;
 }
 
@@ -61,8 +76,13 @@ int LineHeight(TCanvas& Canvas) {
     return FactsFor(Canvas).LineHeight;
 }
 
+int WidthClass(TCanvas& Canvas) {
+    return FactsFor(Canvas).WidthClass;
+}
+
 bool IsSurelyNarrower(TCanvas& Canvas, StringView Text, int MaxWidth) {
     TFontFacts& facts = FactsFor(Canvas);
+    facts.NeedWidths(Canvas);
     int width = facts.Slack;
     for (const wchar_t c : Text) {
         if (!IsPlain(c)) return false;

@@ -1,5 +1,8 @@
 #include "skin/surfaces/FlickerFreePaintBox.h"
 
+#include <cstring>
+#include <optional>
+
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/LifeGuard.h"
 #include "platform/vcl/core/ScopedValue.h"
@@ -8,6 +11,27 @@
 #include "skin/utils/Rounding.h"
 
 namespace qv7skin {
+namespace {
+
+/// Fills a rectangle with the colour of the brush: in memory, which takes half the time of asking the system.
+void FillRows(TBitmap& bitmap, const TRect& rect) {
+    TCanvas& canvas = bitmap.GetCanvas();
+    const std::optional<TDirectBits> direct = canvas.DirectBits();
+    if (!direct) return canvas.FillRect(rect);
+    const TRect area = rect.Intersect(direct->Clip);
+    if (area.IsEmpty()) return;
+    const TBitmapBits& bits = direct->Bits;
+    const TColor color = ColorToRGB(canvas.GetBrush().GetColor());
+    canvas.DrawDirectly([&](HDC) {
+        for (int x = area.Left; x < area.Right; ++x)
+            bits.SetColor(x, area.Top, color);
+        const std::size_t length = static_cast<std::size_t>(area.Width()) * bits.BytesPerPixel;
+        for (int y = area.Top + 1; y < area.Bottom; ++y)
+            std::memcpy(bits.Pixel(area.Left, y), bits.Pixel(area.Left, area.Top), length);
+    });
+}
+
+}  // namespace
 
 const TMetaClass& TFlickerFreePaintBox::StaticClass() {
     static const TMetaClass meta =
@@ -80,9 +104,8 @@ void TFlickerFreePaintBox::ShowPart(const TRect& Part) {
 
 bool TFlickerFreePaintBox::PaintBuffer(const TRect& part) {
     ReAssignBufferFont();
-    TCanvas& canvas = FBuffer->GetCanvas();
-    canvas.GetBrush().SetColor(GetColor());
-    canvas.FillRect(part);
+    FBuffer->GetCanvas().GetBrush().SetColor(GetColor());
+    FillRows(*FBuffer, part);
 
     // Whoever paints may change the control's size, which makes a new buffer, or free the control.
     const TLifeGuard guard(*this);

@@ -183,6 +183,24 @@ TEST_F(ItemLayoutTest, TheLeftEdgeWidensTheLimitOfALink) {
     EXPECT_EQ(Drawn(item, {1, 0, width}), Line() + 1);
 }
 
+TEST_F(ItemLayoutTest, ALinkIsAsWideAsItsCaptionIsNow) {
+    TQV7SkinExplorerItemLink link(L"Dateien", L"");
+    const auto right = [&] {
+        Drawn(link);
+        return link.ClipRect().Right - 5;
+    };
+    EXPECT_EQ(right(), Wide(L"Dateien"));
+    EXPECT_EQ(right(), Wide(L"Dateien")) << "again";
+    link.SetCaption(L"Ordner und Dateien");
+    EXPECT_EQ(right(), Wide(L"Ordner und Dateien"));
+    link.SetFontStyle({fsBold});
+    EXPECT_EQ(right(), Wide(L"Ordner und Dateien", {fsBold}));
+    Canvas().GetFont().SetSize(Canvas().GetFont().GetSize() + 3);
+    const int larger = right();
+    EXPECT_EQ(larger, Canvas().TextWidth(L"Ordner und Dateien"));
+    EXPECT_GT(larger, Wide(L"Ordner und Dateien", {fsBold}));
+}
+
 TEST_F(ItemLayoutTest, ALinkWithoutWordWrapIsOneRowAcrossTheGroup) {
     TQV7SkinExplorerItemLink item(L"Eine Datei öffnen und ansehen", L"");
     item.SetWordWrap(false);

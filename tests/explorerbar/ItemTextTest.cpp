@@ -156,6 +156,21 @@ TEST_F(ItemTextTest, QuickRowsAreThoseOfTheRuleToldWordByWord) {
     }
 }
 
+TEST_F(ItemTextTest, LinesUnderAndThroughLettersLeaveTheirWidths) {
+    TFont& font = Canvas().GetFont();
+    const int plain = WidthClass(Canvas());
+    font.SetStyle({fsUnderline});
+    EXPECT_EQ(WidthClass(Canvas()), plain);
+    font.SetStyle({fsStrikeOut, fsUnderline});
+    EXPECT_EQ(WidthClass(Canvas()), plain);
+    font.SetStyle({fsBold});
+    EXPECT_NE(WidthClass(Canvas()), plain);
+    font.SetStyle({});
+    font.SetSize(font.GetSize() + 4);
+    EXPECT_NE(WidthClass(Canvas()), plain);
+    EXPECT_NE(WidthClass(Canvas()), 0);
+}
+
 TEST_F(ItemTextTest, RowsAreCountedAsTheyAreSplit) {
     static constexpr StringView letters = L"ilMW.ÄßJ\r\n\u0416\u00AD   abc";
     RandomColors random(11);
