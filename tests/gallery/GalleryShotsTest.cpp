@@ -45,7 +45,7 @@ TEST_F(GalleryShotsTest, EveryPageLeavesAPictureOfItself) {
         L"palette",     L"bitmaps", L"frames",        L"masks",      L"columnheaders", L"paintbox",
         L"tones",       L"regions", L"skinbutton",    L"glowbutton", L"messagedialog", L"tabs",
         L"whitetabs",   L"toolbar", L"captionheader", L"gauges",     L"linklabels",    L"splitters",
-        L"explorerbar", L"menus",   L"orderform",
+        L"explorerbar", L"menus",   L"orderform",     L"popupforms",
     };
     EXPECT_EQ(pages, expected);
 }

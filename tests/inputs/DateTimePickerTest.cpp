@@ -119,6 +119,23 @@ TEST_F(DateTimePicker, HostileTextsAreRepairedInSilence) {
     EXPECT_EQ(Changes, 0);
 }
 
+TEST_F(DateTimePicker, WhatIsNoDateIsRepairedByLeavingAndByOpening) {
+    Picker();
+    Write(L"gestern");
+    Picker().DoEditExit(nullptr);
+    EXPECT_EQ(Picker().GetText(), L"Mo, 03.02.2014");
+    Write(L"31.2.");
+    Open();
+    EXPECT_EQ(Picker().GetText(), L"Mo, 03.02.2014");
+    EXPECT_EQ(Calendar().GetDate(), Day);
+    EXPECT_EQ(Changes, 0);
+    Input.KeyPress(VK_ESCAPE);
+    // A text that nobody changed is left alone.
+    Picker().GetLabel()->SetCaption(L"gestern");
+    Picker().DoEditExit(nullptr);
+    EXPECT_EQ(Picker().GetText(), L"gestern");
+}
+
 TEST_F(DateTimePicker, ATextIsReadByEnterAndByLeaving) {
     Picker();
     Write(L"Mo, 4.2.2014");
