@@ -281,6 +281,17 @@ TEST_F(MsgDlgButtonTest, AFreedImageListIsForgotten) {
     EXPECT_TRUE(SamePixels(Shown(), Expected(White, Text, 0, 0)));
 }
 
+TEST_F(MsgDlgButtonTest, ImagesThatWereReplacedAreForgotten) {
+    MakeImages(4);
+    TImageList others(nullptr);
+    others.SetSize(16, 16);
+    Button->SetImageList(&others);
+    EXPECT_EQ(Button->GetImageList(), &others);
+    delete std::exchange(Button, nullptr);
+    Images->Clear();
+    others.SetSize(8, 8);
+}
+
 TEST_F(MsgDlgButtonTest, ImagesOutliveTheButton) {
     MakeImages(4);
     PumpAll();

@@ -130,6 +130,32 @@ TEST_F(LinkLabelTest, EventsOfTheMouseComeAfterTheUnderline) {
     EXPECT_EQ(underlined, (std::vector<bool>{true, false}));
 }
 
+/// Counts how often it is painted.
+class ProbeLink : public TQV7SkinLinkLabel {
+public:
+    using TQV7SkinLinkLabel::TQV7SkinLinkLabel;
+    int Paints = 0;
+
+protected:
+    void Paint() override {
+        ++Paints;
+        TQV7SkinLinkLabel::Paint();
+    }
+};
+
+TEST_F(LinkLabelTest, TheUnderlineShowsBeforeTheEvents) {
+    auto* label = Make<ProbeLink>({20, 20, 80, 40});
+    PumpAll();
+    label->Paints = 0;
+    std::vector<int> paints;
+    label->OnMouseEnter = label->OnMouseLeave = [&](TObject*) { paints.push_back(label->Paints); };
+    Hover(*label);
+    Leave();
+    ASSERT_EQ(paints.size(), 2u);
+    EXPECT_GE(paints[0], 1);
+    EXPECT_GT(paints[1], paints[0]);
+}
+
 TEST_F(LinkLabelTest, ADisabledCaptionIsEngraved) {
     TQV7SkinLinkLabel* label = MakeLink(L"HHH");
     label->SetAutoSize(false);

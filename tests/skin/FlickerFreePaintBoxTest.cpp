@@ -94,6 +94,14 @@ TEST_F(FlickerFreePaintBoxTest, APartOfAnInvalidBufferIsAllOfIt) {
     EXPECT_FALSE(FBox->GetNeedsPaint());
 }
 
+TEST_F(FlickerFreePaintBoxTest, APartOfADeformedBoxIsAllOfIt) {
+    FBox->ApplyDeform(0.5L, 1, 1);
+    FPaintColor = clLime;
+    FBox->RepaintPart({0, 0, 10, 40});
+    EXPECT_TRUE(SamePixels(test::ReadWindow(FBox->GetHandle()),
+                           [](int x, int) { return x < 25 ? COLORREF{clLime} : COLORREF{BoxColor}; }));
+}
+
 TEST_F(FlickerFreePaintBoxTest, AnInvalidBufferIsPaintedWithTheNextMessage) {
     FPaintColor = clLime;
     FBox->InvalidateBuffer();

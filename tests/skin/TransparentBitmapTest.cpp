@@ -131,6 +131,10 @@ TEST_F(TransparentBitmapTest, DrawingLeavesTheCanvasInSourcePaint) {
     ground->GetCanvas().SetCopyMode(cmSrcCopy);
     transparent.DrawClipped(ground->GetCanvas(), 0, 0, {0, 0, 4, 4});
     EXPECT_EQ(ground->GetCanvas().GetCopyMode(), TCopyMode{cmSrcPaint});
+    ground->GetCanvas().SetCopyMode(cmSrcCopy);
+    TTransparentBitmap(Magenta).Draw(ground->GetCanvas(), 0, 0);
+    EXPECT_EQ(ground->GetCanvas().GetCopyMode(), TCopyMode{cmSrcPaint})
+        << "also when there is nothing to draw";
 }
 
 TEST_F(TransparentBitmapTest, CenteredMeansVerticallyAndAnOffsetFromTheLeft) {
