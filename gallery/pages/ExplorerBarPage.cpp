@@ -73,7 +73,6 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
         DrawHeading(canvas, 20, 18, 256, L"Wie in einer Anwendung");
         DrawHeading(canvas, 274, 18, 514, L"Hunderte Verweise");
         DrawHeading(canvas, 532, 18, 740, L"Lange Texte");

@@ -17,7 +17,6 @@
 namespace gallery {
 namespace {
 
-constexpr int Left = 24;
 constexpr int Right = 736;
 constexpr GUID Identifier{0x6d1a9f3c, 0x41d2, 0x4b0e, {0x9c, 0x55, 0x10, 0x3e, 0x77, 0x21, 0x8a, 0x04}};
 
@@ -36,7 +35,7 @@ public:
     explicit TMenusPage(TComponent* AOwner) : TGalleryPage(AOwner), FImages(CreateMenuImages()) {
         SetColor(GetQV7SkinColorBackground());
         FEditor = new TMemo(this);
-        FEditor->SetBounds(Left, 74, Right - Left, 96);
+        FEditor->SetBounds(Margin, 74, Right - Margin, 96);
         FEditor->SetText(L"Beide Menüleisten wirken auf diesen Text.");
         FEditor->SetParent(this);
         FMenu = new TQV7SkinMainMenu(this);
@@ -47,7 +46,7 @@ public:
         FManager->SetImages(FImages.get());
         FBar = new TActionMainMenuBar(this);
         FBar->SetAlign(alNone);
-        FBar->SetBounds(Left, 46, Right - Left, 24);
+        FBar->SetBounds(Margin, 46, Right - Margin, 24);
         FBar->SetParent(this);
         FReplacement = std::make_unique<TMainMenuReplacement>(FMenu, FManager, FBar, Identifier);
         FPopup = new TQV7SkinPopupMenu(this);
@@ -90,17 +89,15 @@ protected:
 
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
-        DrawHeading(canvas, Left, 18, Right,
-                    L"Ein Hauptmenü zweimal: klassisch oben im Fenster, und als Leiste");
-        DrawHeading(canvas, Left, 182, Right, L"Was gezeichnet wird");
-        DrawNote(canvas, {Left + 480, 242, Right, 258}, FChosen);
-        DrawHeading(canvas, Left, 274, Right, L"Das Kontextmenü, von beiden Malern gezeichnet");
+        DrawPartHeading(18, L"Ein Hauptmenü zweimal: klassisch oben im Fenster, und als Leiste");
+        DrawPartHeading(182, L"Was gezeichnet wird");
+        DrawNote(canvas, {Margin + 480, 242, Right, 258}, FChosen);
+        DrawPartHeading(274, L"Das Kontextmenü, von beiden Malern gezeichnet");
         TQV7SkinMenuItemPainter plain;
         TQV7SkinMenuItemPainterNice nice;
         for (TQV7SkinMenuItemPainter* painter : {&plain, static_cast<TQV7SkinMenuItemPainter*>(&nice)})
             ApplyParts(*painter);
-        DrawMenu(plain, Left, L"TQV7SkinMenuItemPainter");
+        DrawMenu(plain, Margin, L"TQV7SkinMenuItemPainter");
         DrawMenu(nice, 390, L"TQV7SkinMenuItemPainterNice");
     }
 
@@ -136,16 +133,16 @@ private:
         return box;
     }
     void MakeSwitches() {
-        int left = Left;
+        int left = Margin;
         for (const TPart& part : Parts) {
             AddSwitch(left, 212, part.Caption, true,
                       [this, which = part.Part] { FParts.Put(which, !FParts.Contains(which)); });
             left += 160;
         }
-        FNice = AddSwitch(Left + 160, 238, L"Maler ...Nice", true, [] {});
-        FActive = AddSwitch(Left + 320, 238, L"Maler aktiv", true, [] {});
+        FNice = AddSwitch(Margin + 160, 238, L"Maler ...Nice", true, [] {});
+        FActive = AddSwitch(Margin + 320, 238, L"Maler aktiv", true, [] {});
         auto* open = new TButton(this);
-        open->SetBounds(Left, 236, 140, 25);
+        open->SetBounds(Margin, 236, 140, 25);
         open->SetCaption(L"Kontextmenü &öffnen");
         open->SetParent(this);
         open->OnClick = [this](TObject*) { OpenPopup(); };
@@ -169,7 +166,7 @@ private:
     }
 
     void OpenPopup() {
-        const TPoint place = ClientToScreen({Left, 264});
+        const TPoint place = ClientToScreen({Margin, 264});
         FPopup->Popup(place.X, place.Y);
     }
     void SampleClicked(TObject* sender) {

@@ -85,7 +85,6 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
         UseFont(canvas, 9, true, GetQV7SkinColorColumnHeaderBG());
         canvas.GetBrush().SetStyle(bsClear);
         canvas.TextOut(24, 24, L"Bestellung");

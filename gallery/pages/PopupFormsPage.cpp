@@ -142,7 +142,6 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        Fill(canvas, GetClientRect(), GetColor());
         DrawHeading(canvas, FieldLeft, 24, BarLeft - 40, L"Unter einem Feld, zu ziehen an diesen Kanten");
         DrawHeading(canvas, BarLeft, 24, BarLeft + 236, L"Unter einem Verweis");
     }
