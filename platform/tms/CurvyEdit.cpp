@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/tms/CurvyRows.h"
-#include "platform/vcl/controls/ParentForm.h"
+#include "platform/vcl/controls/InnerEditor.h"
 #include "platform/vcl/graphics/Font.h"
 #include "platform/vcl/stdctrls/Edit.h"
 
@@ -154,19 +154,9 @@ void TCurvyEdit::SetEnabled(bool value) {
     FEdit->SetEnabled(value);
 }
 
-/// Shift+Tab in the editor inside leads to the control before this one, not to this one itself.
-bool TCurvyEdit::TakesTabBack(const TMessage& message) {
-    const TShiftState shift = KeyboardShiftState();
-    TParentForm* form = GetParentForm(this);
-    if (message.CharCode() != VK_TAB || !shift.Contains(ssShift) || shift.Contains(ssCtrl) || !form)
-        return false;
-    form->FormControl().SelectNext(this, false, true);
-    return true;
-}
-
 void TCurvyEdit::Dispatch(TMessage& message) {
     const TLifeGuard guard(*this);
-    if (message.Msg == CM_CHILDKEY && TakesTabBack(message)) {
+    if (message.Msg == CM_CHILDKEY && TakeTabBack(*this, message)) {
         message.Result = 1;
         return;
     }

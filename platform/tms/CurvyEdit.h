@@ -56,7 +56,6 @@ protected:
 
 private:
     void PlaceEdit();
-    [[nodiscard]] bool TakesTabBack(const TMessage& message);
 
     TEdit* FEdit;
 };

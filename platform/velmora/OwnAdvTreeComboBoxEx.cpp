@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/vcl/controls/ParentForm.h"
+#include "platform/vcl/controls/InnerEditor.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Arrows.h"
@@ -452,19 +452,9 @@ bool TOwnAdvTreeComboBoxEx::Focused() const {
     return FEdit->Focused();
 }
 
-/// Shift+Tab in the editor leads to the control before this one, not to this one itself.
-bool TOwnAdvTreeComboBoxEx::TakesTabBack(const TMessage& message) {
-    const TShiftState shift = KeyboardShiftState();
-    TParentForm* form = GetParentForm(this);
-    if (message.CharCode() != VK_TAB || !shift.Contains(ssShift) || shift.Contains(ssCtrl) || !form)
-        return false;
-    form->FormControl().SelectNext(this, false, true);
-    return true;
-}
-
 void TOwnAdvTreeComboBoxEx::Dispatch(TMessage& message) {
     const TLifeGuard guard(*this);
-    if (message.Msg == CM_CHILDKEY && TakesTabBack(message)) {
+    if (message.Msg == CM_CHILDKEY && TakeTabBack(*this, message)) {
         message.Result = 1;
         return;
     }

@@ -134,7 +134,6 @@ private:
     [[nodiscard]] TTreeNode* NodeAfter(int steps) const;
     [[nodiscard]] TTreeNode* NodeForKey(WORD key) const;
     [[nodiscard]] TTreeNode* NodeForLetter(wchar_t letter) const;
-    [[nodiscard]] bool TakesTabBack(const TMessage& message);
 
     TInnerEdit* FEdit;
     TTreeDropDown* FDropDown;

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/vcl/controls/WinControl.h"
+
+namespace vcl {
+
+// For controls whose focus lies in an editor inside of them.
+
+/// Takes Shift+Tab (without Ctrl) from a `CM_CHILDKEY` of the editor and moves the focus to the control
+/// before `outer`: the way back would otherwise lead to `outer`, which hands the focus to the editor again.
+/// True when it did; handlers of the focus may have freed `outer` then.
+[[nodiscard]] bool TakeTabBack(TWinControl& outer, const TMessage& message);
+
+}  // namespace vcl
