@@ -58,20 +58,39 @@ void Watch(ULONGLONG limit) {
     }
 }
 
-LONG WINAPI ReportCrash(EXCEPTION_POINTERS* what) {
-    const EXCEPTION_RECORD* record = what->ExceptionRecord;
-    std::printf("\n[  FAILED  ] %s crashed: exception %08lx at %p", Running()->NameAfterCrash(),
-                record->ExceptionCode, record->ExceptionAddress);
+/// An address as a place in its module, for addr2line.
+void PrintPlace(const void* address) {
+    std::printf("\n    at %p", address);
     HMODULE module = nullptr;
     wchar_t path[MAX_PATH] = L"";
-    if (GetModuleHandleExW(
+    if (!GetModuleHandleExW(
             GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-            static_cast<const wchar_t*>(record->ExceptionAddress), &module)) {
-        GetModuleFileNameW(module, path, MAX_PATH);
-        std::printf(" (%ls + 0x%llx)", path,
-                    static_cast<unsigned long long>(static_cast<const char*>(record->ExceptionAddress) -
-                                                    reinterpret_cast<const char*>(module)));
+            static_cast<const wchar_t*>(address), &module))
+        return;
+    GetModuleFileNameW(module, path, MAX_PATH);
+    std::printf(" (%ls + 0x%llx)", path,
+                static_cast<unsigned long long>(static_cast<const char*>(address) -
+                                                reinterpret_cast<const char*>(module)));
+}
+
+/// The calls that led to the crash, the innermost first.
+void PrintCalls(CONTEXT context) {
+    constexpr int mostCalls = 16;
+    for (int i = 0; i < mostCalls && context.Rip; ++i) {
+        PrintPlace(reinterpret_cast<const void*>(context.Rip));
+        DWORD64 base = 0;
+        const auto function = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
+        if (!function) return;
+        void* handler = nullptr;
+        DWORD64 frame = 0;
+        RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handler, &frame, nullptr);
     }
+}
+
+LONG WINAPI ReportCrash(EXCEPTION_POINTERS* what) {
+    std::printf("\n[  FAILED  ] %s crashed: exception %08lx", Running()->NameAfterCrash(),
+                what->ExceptionRecord->ExceptionCode);
+    PrintCalls(*what->ContextRecord);
     std::printf("\n");
     std::fflush(stdout);
     TerminateProcess(GetCurrentProcess(), 99);
