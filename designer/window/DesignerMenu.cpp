@@ -5,6 +5,7 @@
 #include "designer/dialogs/ComponentEditors.h"
 #include "designer/model/Arranging.h"
 #include "designer/window/DesignerWindow.h"
+#include "platform/vcl/graphics/ImageList.h"
 #include "platform/vcl/menus/MenuItem.h"
 #include "platform/vcl/menus/ShortCuts.h"
 
@@ -71,6 +72,9 @@ void TDesignerWindow::MakeMenu() {
     FMenu->OnAfterExecuteShortCut = {this, &TDesignerWindow::RestoreDeleteKey};
     UpdateRecentFiles(nullptr);
     FMenu->ApplyCustomLayout();
+    // Menus with images leave the items of the bar to the system: the painter would put a gutter before each.
+    FMenu->SetImages(new TImageList(this));
+    FMenu->SetOwnerDraw(false);
     SetMenu(FMenu);
 }
 
