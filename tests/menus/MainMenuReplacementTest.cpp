@@ -1,10 +1,7 @@
 #include "menus/UnitQV7SkinActnCtrls.h"
 
-#include <map>
-
 #include "menus/MenuItemPainter.h"
-#include "platform/vcl/stdctrls/Edit.h"
-#include "tests/support/FormTest.h"
+#include "tests/menus/ReplacementFixture.h"
 #include "tests/support/PixelProbe.h"
 
 namespace test {
@@ -14,62 +11,7 @@ using namespace vcl;
 using namespace qv7skin;
 using Names = std::vector<std::wstring>;
 
-constexpr GUID Identifier{0x12345678, 0x1234, 0x5678, {1, 2, 3, 4, 5, 6, 7, 8}};
-
-class MainMenuReplacementTest : public FormTest {
-protected:
-    void SetUp() override {
-        FormTest::SetUp();
-        Menu = new TMainMenu(&Form());
-        Manager = new TActionManager(&Form());
-        Bar = Make<TActionMainMenuBar>({0, 0, 400, 24});
-        Editor = Make<TEdit>({10, 80, 200, 110});
-        Editor->SetFocus();
-        File = AddItem(Menu->GetItems(), L"&File");
-        Open = AddItem(*File, L"&Open");
-        Line = AddItem(*File, L"-");
-        Save = AddItem(*File, L"&Save");
-        Edit = AddItem(Menu->GetItems(), L"&Edit");
-        Copy = AddItem(*Edit, L"&Copy");
-        More = AddItem(*Edit, L"&More");
-        Deep = AddItem(*More, L"&Deep");
-        for (TMenuItem* item : {File, Edit, More})
-            item->OnClick = {this, &MainMenuReplacementTest::NoteOpening};
-    }
-    void TearDown() override {
-        Replacement.reset();
-        FormTest::TearDown();
-    }
-    TMenuItem* AddItem(TMenuItem& parent, const std::wstring& caption) {
-        auto* item = new TMenuItem(&Form());
-        item->SetCaption(caption);
-        item->OnClick = {this, &MainMenuReplacementTest::NoteClick};
-        parent.Add(item);
-        return item;
-    }
-    void NoteClick(TObject* sender) { Clicked.push_back(dynamic_cast<TMenuItem&>(*sender).GetCaption()); }
-    void NoteOpening(TObject* sender) { ++Openings[dynamic_cast<TMenuItem*>(sender)]; }
-    void Replace() { Replacement = std::make_unique<TMainMenuReplacement>(Menu, Manager, Bar, Identifier); }
-    [[nodiscard]] TActionClients& Clients() { return Manager->GetActionBars().GetItem(0)->GetItems(); }
-    [[nodiscard]] static Names Captions(const TCustomActionBar& bar) {
-        Names names;
-        for (const TCustomActionControl* control : bar.ActionControls())
-            names.push_back(control->ItemCaption());
-        return names;
-    }
-    [[nodiscard]] std::size_t Levels() const { return Bar->OpenMenus().size(); }
-    [[nodiscard]] TActionPopupMenu& OpenMenu(std::size_t level = 0) const { return *Bar->OpenMenus()[level]; }
-
-    TMainMenu* Menu = nullptr;
-    TActionManager* Manager = nullptr;
-    TActionMainMenuBar* Bar = nullptr;
-    TEdit* Editor = nullptr;
-    TMenuItem *File = nullptr, *Open = nullptr, *Line = nullptr, *Save = nullptr;
-    TMenuItem *Edit = nullptr, *Copy = nullptr, *More = nullptr, *Deep = nullptr;
-    std::unique_ptr<TMainMenuReplacement> Replacement;
-    Names Clicked;
-    std::map<TMenuItem*, int> Openings;
-};
+class MainMenuReplacementTest : public ReplacementTest {};
 
 TEST_F(MainMenuReplacementTest, TheBarMirrorsTheTopmostItems) {
     Replace();

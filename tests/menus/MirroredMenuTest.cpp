@@ -1,0 +1,202 @@
+#include "menus/MenuItemPainter.h"
+#include "tests/menus/ReplacementFixture.h"
+#include "tests/support/PixelProbe.h"
+
+// What users and hosts do with a mirrored menu while it is open, and how it looks in both styles.
+
+namespace test {
+namespace {
+
+using namespace vcl;
+using namespace qv7skin;
+using Names = std::vector<std::wstring>;
+
+class MirroredMenuTest : public ReplacementTest {};
+
+TEST_F(MirroredMenuTest, AnItemThatChecksItselfDoesSoOnce) {
+    Save->SetAutoCheck(true);
+    std::vector<bool> seen;
+    Save->OnClick = [&](TObject*) { seen.push_back(Save->GetChecked()); };
+    Replace();
+    for (int round = 0; round < 2; ++round) {
+        Input.Chord({VK_MENU}, 'F');
+        Input.KeyPress('S');
+    }
+    EXPECT_EQ(seen, (std::vector<bool>{true, false}));
+    EXPECT_FALSE(Save->GetChecked());
+}
+
+TEST_F(MirroredMenuTest, OneItemOfARadioGroupIsChecked) {
+    for (TMenuItem* item : {Open, Save}) {
+        item->SetRadioItem(true);
+        item->SetAutoCheck(true);
+        item->SetGroupIndex(4);
+    }
+    Open->SetChecked(true);
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    Input.KeyPress('S');
+    EXPECT_TRUE(Save->GetChecked());
+    EXPECT_FALSE(Open->GetChecked());
+    Input.Chord({VK_MENU}, 'F');
+    TActionClients& items = Clients().GetItem(0)->GetItems();
+    EXPECT_FALSE(items.GetItem(0)->IsChecked());
+    EXPECT_TRUE(items.GetItem(2)->IsChecked());
+    Bar->CloseMenu();
+}
+
+TEST_F(MirroredMenuTest, AMenuMayBeRebuiltByTheItemThatWasChosen) {
+    Save->OnClick = [&](TObject*) {
+        File->Clear();
+        AddItem(*File, L"&New");
+    };
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    Input.KeyPress('S');
+    Input.Chord({VK_MENU}, 'F');
+    ASSERT_EQ(Levels(), 1U);
+    EXPECT_EQ(Captions(OpenMenu()), Names{L"&New"});
+    Input.KeyPress('N');
+    EXPECT_EQ(Clicked, Names{L"&New"});
+}
+
+TEST_F(MirroredMenuTest, AnotherMainMenuMayComeWhileTheBarIsOpen) {
+    auto* second = new TMainMenu(&Form());
+    AddItem(*AddItem(second->GetItems(), L"&Second"), L"&Inside");
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    ASSERT_EQ(Levels(), 1U);
+    Replacement->UpdateActionMainMenuBar(second);
+    EXPECT_FALSE(Bar->GetInMenuLoop());
+    EXPECT_EQ(Captions(*Bar), Names{L"&Second"});
+    delete Menu;
+    Input.Chord({VK_MENU}, 'S');
+    ASSERT_EQ(Levels(), 1U);
+    Input.KeyPress('I');
+    EXPECT_EQ(Clicked, (Names{L"&Second", L"&Inside"}));
+}
+
+TEST_F(MirroredMenuTest, TheReplacementMayGoWhileItsMenuIsOpen) {
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    ASSERT_EQ(Levels(), 1U);
+    Replacement.reset();
+    EXPECT_EQ(Manager->GetActionCount(), 0);
+    Input.KeyPress('S');
+    EXPECT_TRUE(Clicked.empty());
+    Bar->CloseMenu();
+}
+
+TEST_F(MirroredMenuTest, UninitialisedTheEndOfTheLoopLeavesTheSubmenus) {
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    Replacement->Uninitialize();
+    Input.KeyPress(VK_F10);
+    EXPECT_EQ(Clients().GetItem(0)->GetItems().GetCount(), 3);
+    EXPECT_EQ(Replacement->Actions().size(), 3U);
+}
+
+TEST_F(MirroredMenuTest, AManagerThatIsBeingLoadedIsNotFilled) {
+    TActionManager manager(nullptr);
+    manager.BeginLoading();
+    TMainMenuReplacement replacement(Menu, &manager, Bar, Identifier);
+    EXPECT_TRUE(Bar->ActionControls().empty());
+    manager.EndLoading();
+    replacement.UpdateActionMainMenuBar(Menu);
+    EXPECT_EQ(Captions(*Bar), (Names{L"&File", L"&Edit"}));
+}
+
+TEST_F(MirroredMenuTest, HiddenItemsStayHidden) {
+    Save->SetVisible(false);
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    // The separator above has nothing to separate any more.
+    EXPECT_EQ(Captions(OpenMenu()), Names{L"&Open"});
+    Bar->CloseMenu();
+}
+
+class MirroredLookTest : public ReplacementTest, public testing::WithParamInterface<TActionMenuStyle> {
+protected:
+    void SetUp() override {
+        ReplacementTest::SetUp();
+        Bar->SetStyle(GetParam());
+        Save->SetHint(L"Writes the text");
+        Save->SetShortCut(ShortCut('S', {ssCtrl}));
+        Line->SetHint(L"Heading");
+    }
+    void TearDown() override {
+        SetQV7SkinMenuItemPainter(new TQV7SkinMenuItemPainterNice());
+        ReplacementTest::TearDown();
+    }
+};
+
+TEST_P(MirroredLookTest, EachItemLooksAsThePainterDrawsIt) {
+    for (TQV7SkinMenuItemPainter* painter :
+         {new TQV7SkinMenuItemPainter(),
+          static_cast<TQV7SkinMenuItemPainter*>(new TQV7SkinMenuItemPainterNice())}) {
+        SetQV7SkinMenuItemPainter(painter);
+        Replace();
+        Input.Chord({VK_MENU}, 'F');
+        Input.KeyPress(VK_END);
+        ASSERT_EQ(Levels(), 1U);
+        const Pixels shown = ReadClient(OpenMenu().WindowHandle());
+        const auto& controls = OpenMenu().ActionControls();
+        for (int i = 0; i < File->GetCount(); ++i) {
+            const TRect place = controls[static_cast<std::size_t>(i)]->GetBoundsRect();
+            const Pixels drawn = Drawn(place.Width(), place.Height(), 0, [&](HDC dc) {
+                TCanvas canvas;
+                canvas.SetHandle(dc);
+                int width = 0;
+                int height = 0;
+                painter->MeasureItem(*File->GetItem(i), canvas, width, height);
+                EXPECT_EQ(place.Height(), height);
+                EXPECT_GE(place.Width(), width + 12);
+                painter->DrawItem(*File->GetItem(i), canvas, {0, 0, place.Width(), place.Height()}, i == 2,
+                                  true);
+                canvas.SetHandle(nullptr);
+            });
+            EXPECT_TRUE(SamePixels(shown.Part(place), drawn)) << i;
+        }
+        Bar->CloseMenu();
+        Replacement.reset();
+    }
+}
+
+TEST_P(MirroredLookTest, CaptionsInTheBarAreDrawnByThePainter) {
+    Replace();
+    Input.KeyPress(VK_F10);
+    const Pixels shown = ReadClient(Bar->WindowHandle());
+    for (std::size_t i = 0; i < 2; ++i) {
+        const TCustomActionControl& control = *Bar->ActionControls()[i];
+        const TRect place = control.GetBoundsRect();
+        const Pixels drawn = Drawn(place.Width(), place.Height(), ColorToRGB(Bar->GetColor()), [&](HDC dc) {
+            TCanvas canvas;
+            canvas.SetHandle(dc);
+            QV7SkinMenuItemPainter()->DrawMainMenuRootItem(
+                control.ItemCaption(), canvas, {0, 0, place.Width(), place.Height()}, i == 0, true);
+            canvas.SetHandle(nullptr);
+        });
+        EXPECT_TRUE(SamePixels(shown.Part(place), drawn)) << i;
+    }
+    Bar->CloseMenu();
+}
+
+TEST_P(MirroredLookTest, WithoutAPainterTheControlsLookAsThoseOfTheFramework) {
+    SetQV7SkinMenuItemPainter(nullptr);
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    ASSERT_EQ(Levels(), 1U);
+    const Pixels shown = ReadClient(OpenMenu().WindowHandle());
+    const TRect save = OpenMenu().ActionControls()[2]->GetBoundsRect();
+    const COLORREF ground = GetParam() == amsThemed ? ColorToRGB(clMenu) : 0x00FFFFFF;
+    EXPECT_EQ(shown.At(save.Right - 3, save.Top + 2), ground);
+    EXPECT_EQ(shown.Count(0x00FAFAFA), 0);
+    Input.KeyPress('S');
+    EXPECT_EQ(Clicked, Names{L"&Save"});
+}
+
+INSTANTIATE_TEST_SUITE_P(Styles, MirroredLookTest, testing::Values(amsXPStyle, amsThemed),
+                         [](const auto& style) { return style.param == amsThemed ? "Themed" : "XP"; });
+
+}  // namespace
+}  // namespace test
