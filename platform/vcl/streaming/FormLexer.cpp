@@ -108,6 +108,22 @@ bool TFormLexer::SkipDigits() {
     return FNext > start;
 }
 
+bool TFormLexer::SkipNumber(bool& hasFraction) {
+    bool valid = SkipDigits();
+    if (Peek() == L'.' && IsDigit(Peek(1))) {
+        hasFraction = true;
+        ++FNext;
+        SkipDigits();
+    }
+    if (Peek() == L'e' || Peek() == L'E') {
+        hasFraction = true;
+        ++FNext;
+        if (Peek() == L'+' || Peek() == L'-') ++FNext;
+        valid = SkipDigits() && valid;
+    }
+    return valid;
+}
+
 void TFormLexer::ReadNumber() {
     const std::size_t start = FNext;
     const bool negative = Peek() == L'-';
@@ -115,18 +131,7 @@ void TFormLexer::ReadNumber() {
     if (Peek() == L'$') return ReadHexadecimal(negative);
 
     bool fraction = false;
-    bool valid = SkipDigits();
-    if (Peek() == L'.' && IsDigit(Peek(1))) {
-        fraction = true;
-        ++FNext;
-        SkipDigits();
-    }
-    if (Peek() == L'e' || Peek() == L'E') {
-        fraction = true;
-        ++FNext;
-        if (Peek() == L'+' || Peek() == L'-') ++FNext;
-        valid = SkipDigits() && valid;
-    }
+    const bool valid = SkipNumber(fraction);
     const StringView text = FSource.substr(start, FNext - start);
     wchar_t letter = 0;
     if (StringView(L"cdfsCDFS").find(Peek()) != StringView::npos && !AtEnd()) {

@@ -49,6 +49,8 @@ private:
     void SkipBlanks();
     void ReadName();
     void ReadNumber();
+    /// Goes past the digits, fraction and exponent of a number; false when digits are missing.
+    bool SkipNumber(bool& hasFraction);
     void ReadHexadecimal(bool negative);
     void ReadString();
     void ReadQuoted();
