@@ -189,6 +189,7 @@ bool TDesignerWindow::AcceptText() {
     Try([&] {
         try {
             FDocument.SetText(L"Text ändern", ToUtf8(FTextMemo->GetText()));
+            FTypedText.reset();
             accepted = true;
         } catch (const EFormError& error) {
             ShowTextPosition(error.Problem().Position);

@@ -129,6 +129,7 @@ void TDesignerWindow::MakeInspector() {
 // --- what has changed
 
 void TDesignerWindow::DocumentChanged() {
+    FTypedText.reset();
     FProperties.Refresh();
     FEvents.Refresh();
     FGrid->UpdateLines();
@@ -196,12 +197,13 @@ void TDesignerWindow::ShowContextMenu(TPoint screen) {
 /// Keeps unsaved work for the case that the program ends without asking.
 void TDesignerWindow::KeepWork() {
     FUnkeptSince.reset();
-    if (FKept == FDocument.Text()) return;
-    if (FDocument.IsModified())
-        FAutoSave.Keep(FFile.Name(), FDocument.Text());
+    const std::string& work = FTypedText ? *FTypedText : FDocument.Text();
+    if (FKept == work) return;
+    if (FTypedText || FDocument.IsModified())
+        FAutoSave.Keep(FFile.Name(), work);
     else
         FAutoSave.Discard();
-    FKept = FDocument.Text();
+    FKept = work;
 }
 
 void TDesignerWindow::ClockTimer(TObject*) {
@@ -221,7 +223,9 @@ void TDesignerWindow::KeepWorkInTime() {
 void TDesignerWindow::TextChange(TObject*) {
     if (FUpdatingText) return;
     try {
-        (void)ParseFormText(FTextMemo->GetText());
+        const String text = FTextMemo->GetText();
+        (void)ParseFormText(text);
+        FTypedText = ToUtf8(text);
         ShowStatus(L"Der Text ist in Ordnung");
     } catch (const EFormError& error) {
         const TFormProblem& problem = error.Problem();

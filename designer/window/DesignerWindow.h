@@ -124,6 +124,7 @@ private:
     TAutoSave FAutoSave;
     TRecentFiles FRecent;
     std::string FKept;                      ///< What the autosave holds.
+    std::optional<std::string> FTypedText;  ///< What was typed into the text and could last be parsed.
     std::optional<ULONGLONG> FUnkeptSince;  ///< The tick of the first edit that it does not hold.
 
     TQV7SkinToolbar* FToolbar = nullptr;

@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <functional>
 #include <set>
 
@@ -175,6 +176,23 @@ TEST_F(DesignerWindowTest, TheCaretGoesWhereTheTextIsWrong) {
     Input.KeyPress(VK_F12);
     EXPECT_EQ(Answers.Errors.size(), 1u);
     EXPECT_EQ(Window->TextMemo().GetSelStart(), static_cast<int>(place));
+}
+
+TEST_F(DesignerWindowTest, WhatIsTypedIntoTheTextIsKeptToo) {
+    Window->OpenFile(Dir.Write(L"form.dfm", SampleFile));
+    Input.KeyPress(VK_F12);
+    Input.KeyPress(VK_DOWN);
+    Input.Type(L"  Tag = 4");
+    Input.KeyPress(VK_RETURN);
+    const auto kept = [this] {
+        for (const auto& entry : std::filesystem::directory_iterator(Dir.File(L"kept")))
+            if (entry.path().extension() == L".arbeit")
+                return Dir.Read(L"kept\\" + entry.path().filename().wstring());
+        return std::string();
+    };
+    ASSERT_TRUE(test::PumpUntil([&] { return kept().find("  Tag = 4\r\n") != std::string::npos; })) << kept();
+    Input.Type(L"Tag = ");
+    EXPECT_NE(Window->Status().find(L"Zeile 3,"), String::npos) << ToUtf8(Window->Status());
 }
 
 TEST_F(DesignerWindowTest, ClosingAsksForUnsavedChanges) {
