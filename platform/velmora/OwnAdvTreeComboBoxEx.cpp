@@ -135,6 +135,9 @@ void TOwnAdvTreeComboBoxEx::ConnectEditor() {
 
 void TOwnAdvTreeComboBoxEx::ConnectTree() {
     FDropDown->OnDone = [this](bool cancelled) { Done(cancelled); };
+    FDropDown->OnTab = [this](bool forward) {
+        if (TParentForm* form = GetParentForm(this)) form->FormControl().SelectNext(this, forward, true);
+    };
     TCustomTreeView& tree = FDropDown->GetTree();
     tree.OnExpanding = [this](TObject*, TTreeNode* node, bool& allowed) { allowed = TreeExpanding(*node); };
     tree.OnChange = [this](TObject*, TTreeNode* node) { NodeSelected(node); };

@@ -76,6 +76,7 @@ void TTreeDropDown::CreateParams(TCreateParams& params) {
 
 void TTreeDropDown::FreeWhenIdle() {
     OnDone.Clear();
+    OnTab.Clear();
     if (!FTree->IsInMessage()) return Free();
     Hide();
     Release();
@@ -118,7 +119,24 @@ void TTreeDropDown::Deactivate() {
     if (guard.IsAlive() && !IsControlState(csRecreating)) Finish(true);
 }
 
+void TTreeDropDown::DoClose(TCloseAction& action) {
+    const TLifeGuard guard(*this);
+    TCustomForm::DoClose(action);
+    if (!guard.IsAlive() || action == caNone) return;
+    action = caNone;
+    Finish(true);
+}
+
 // --- keys
+
+void TTreeDropDown::Dispatch(TMessage& message) {
+    if (message.Msg != CM_DIALOGKEY || message.CharCode() != VK_TAB) return TCustomForm::Dispatch(message);
+    message.Result = 1;
+    const TLifeGuard guard(*this);
+    const bool forward = !KeyboardShiftState().Contains(ssShift);
+    Finish(false);
+    if (guard.IsAlive()) OnTab(forward);
+}
 
 void TTreeDropDown::KeyDown(WORD& key, TShiftState shift) {
     const TLifeGuard guard(*this);
@@ -126,8 +144,8 @@ void TTreeDropDown::KeyDown(WORD& key, TShiftState shift) {
     if (!guard.IsAlive()) return;
     const bool alt = shift.Contains(ssAlt);
     const bool takes = alt ? key == VK_UP || key == VK_DOWN : key == VK_RETURN || key == VK_F4;
-    if (!takes && key != VK_ESCAPE) return;
-    const bool cancels = key == VK_ESCAPE;
+    const bool cancels = key == VK_ESCAPE || (alt && key == VK_F4);
+    if (!takes && !cancels) return;
     key = 0;
     Finish(cancels);
 }

@@ -9,8 +9,8 @@ namespace velmora {
 /// The window that a tree combo box drops down: a tree with a line around it. It has the focus while it
 /// shows, so that keys, wheel and screen readers work as in every tree.
 ///
-/// Enter, F4, Alt+Up, Alt+Down and a click on a node take the selected node; Escape and another window
-/// becoming active cancel.
+/// Enter, F4, Alt+Up, Alt+Down, Tab and a click on a node take the selected node; Escape, closing the window
+/// and another window becoming active cancel.
 class TTreeDropDown : public TCustomForm {
 public:
     TTreeDropDown();
@@ -20,6 +20,8 @@ public:
 
     /// Raised after the window was hidden: whether the user cancelled.
     TEvent<void(bool)> OnDone;
+    /// Raised after that when it was Tab that took the node: whether the focus goes forward.
+    TEvent<void(bool)> OnTab;
 
     [[nodiscard]] TCustomTreeView& GetTree() const { return *FTree; }
     /// The line around the tree.
@@ -35,6 +37,8 @@ public:
 protected:
     void CreateParams(TCreateParams& params) override;
     [[nodiscard]] TRect GetFrameInsets() const override { return {}; }
+    void Dispatch(TMessage& message) override;
+    void DoClose(TCloseAction& action) override;
     void Deactivate() override;
     void KeyDown(WORD& key, TShiftState shift) override;
     void KeyPress(wchar_t& key) override;

@@ -143,6 +143,40 @@ TEST_F(TreeComboBox, KeysOpenChooseAndClose) {
     EXPECT_TRUE(Box().Focused());
 }
 
+TEST_F(TreeComboBox, TabTakesTheNodeAndGoesOn) {
+    auto* before = Make<TEdit>(TRect::OfSize(10, 60, 50, 21));
+    Box();
+    auto* after = Make<TEdit>(TRect::OfSize(10, 90, 50, 21));
+    Box().SetSelected(Fruit);
+    PressButton();
+    Input.KeyPress(VK_DOWN);
+    Input.KeyPress(VK_TAB);
+    EXPECT_FALSE(TreeShows());
+    EXPECT_EQ(Box().GetText(), L"Gemuese");
+    EXPECT_TRUE(after->Focused());
+    Box().SetFocus();
+    Input.KeyPress(VK_F4);
+    Input.Chord({VK_SHIFT}, VK_TAB);
+    EXPECT_TRUE(before->Focused());
+    EXPECT_EQ(Told, L"open click change close open close ");
+}
+
+TEST_F(TreeComboBox, ClosingItsWindowCancels) {
+    PressButton();
+    Input.Chord({VK_MENU}, VK_F4);
+    EXPECT_FALSE(TreeShows());
+    EXPECT_FALSE(Box().GetDroppedDown());
+    EXPECT_EQ(Told, L"open cancel ");
+    EXPECT_TRUE(Form().GetVisible());
+    PressButton();
+    EXPECT_TRUE(TreeShows());
+    ::PostMessageW(::GetAncestor(TreeWindow(), GA_ROOT), WM_CLOSE, 0, 0);
+    test::PumpAll();
+    EXPECT_FALSE(TreeShows());
+    EXPECT_FALSE(Box().GetDroppedDown());
+    EXPECT_EQ(Told, L"open cancel open cancel ");
+}
+
 TEST_F(TreeComboBox, TheTreesOwnKeysWorkInTheOpenTree) {
     Box().SetSelected(Fruit);
     PressButton();
