@@ -138,6 +138,20 @@ TEST_F(ExplorerBarLayoutTest, TheMouseMovedDuringAnUpdatePaintsNothing) {
     EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
 }
 
+TEST_F(ExplorerBarLayoutTest, WhatIsUnderTheCursorIsFoundByThePlaceInTheBar) {
+    Fill(2, 30);
+    MoveTo(Item(0, 2));
+    EXPECT_EQ(Bar().GetHotArea(), &Item(0, 2));
+    MoveToHeader(0);
+    EXPECT_EQ(Bar().GetHotArea(), &Group(0));
+    // Counted from the bar's first row that is seen, wherever the content is scrolled to.
+    MoveTo(Item(0, 5));
+    Bar().GetVertScrollBar().SetPosition(2 * (LineHeight() + 1));
+    EXPECT_EQ(Bar().GetHotArea(), &Item(0, 5));
+    Input.MoveAway();
+    EXPECT_EQ(Bar().GetHotArea(), nullptr);
+}
+
 TEST_F(ExplorerBarLayoutTest, AnErrorOfAnItemStopsNothingForGood) {
     Fill(2, 3);
     auto& item = AddTo(0, new TFlashingItem);

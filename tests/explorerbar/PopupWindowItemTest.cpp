@@ -138,6 +138,29 @@ TEST_F(PopupWindowItem, TheReturnKeyOpensTheFocusedOnesWindow) {
     EXPECT_EQ(clicks, 0);
 }
 
+TEST_F(PopupWindowItem, ReturnOnTheFocusedItemOpensItsWindow) {
+    int clicks = 0;
+    PopupItem().OnClick = [&](TObject*) { ++clicks; };
+    Bar().SetFocus();
+    Input.KeyPress(VK_TAB);
+    Input.KeyPress(VK_TAB);
+    ASSERT_TRUE(PopupItem().IsFocused());
+    Input.KeyPress(VK_RETURN);
+    EXPECT_TRUE(Window().GetVisible());
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(PopupWindowItem, InAScrolledBarItsWindowStandsLowerByTheScrollPosition) {
+    Bar().BeginUpdate();
+    for (int i = 0; i < 40; ++i)
+        AddTo(0, new TLink(L"Link", L""));
+    Bar().EndUpdate();
+    Bar().GetVertScrollBar().SetPosition(15);
+    MoveTo(PopupItem());
+    const int bottom = PopupItem().ClipRect().Bottom;
+    EXPECT_EQ(Window().GetBoundsRect().TopLeft(), Bar().ClientToScreen({0, bottom + 15 - 2}));
+}
+
 TEST_F(PopupWindowItem, TakesOnlyWindowsOfItsClass) {
     try {
         PopupItem().SetPopupWindow(&Form());
