@@ -2,10 +2,13 @@
 
 #include <array>
 
+#include "buttons/MessageIcons.h"
 #include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Font.h"
 #include "platform/vcl/graphics/ImageList.h"
+#include "platform/vcl/stdctrls/Image.h"
+#include "platform/vcl/stdctrls/Label.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -173,6 +176,89 @@ TEST_F(MessageDialogTest, LongCaptionsWidenTheDialog) {
         Input.KeyPress(VK_ESCAPE);
     });
     EXPECT_GT(wide, narrow);
+}
+
+TEST_F(MessageDialogTest, ItIsAsWideAsItsCaptionsWithoutTheirMarksAndNoWiderThanTheMost) {
+    const auto widthOf = [&](const String& caption) {
+        Choices choices = Three();
+        choices[0].Caption = caption;
+        int width = 0;
+        Ask(choices, [&](auto& dialog) {
+            width = dialog.GetClientWidth();
+            Input.KeyPress(VK_ESCAPE);
+        });
+        return width;
+    };
+    const String caption = L"Die Änderungen an allen geöffneten Dateien jetzt sichern";
+    EXPECT_EQ(widthOf(L"&" + caption), widthOf(caption));
+    EXPECT_EQ(widthOf(caption + L" " + caption + L" " + caption), 640);
+}
+
+TEST_F(MessageDialogTest, ADisabledChoiceIsNeitherDefaultNorCancel) {
+    Choices choices = Three();
+    choices[0].Enabled = false;
+    choices[2].Enabled = false;
+    bool stayed = false;
+    EXPECT_EQ(Ask(choices,
+                  [&](auto& dialog) {
+                      EXPECT_TRUE(dialog.GetChoice(1).Focused());
+                      Input.KeyPress(VK_ESCAPE);
+                      ::SendMessageW(dialog.GetHandle(), WM_CLOSE, 0, 0);
+                      stayed = dialog.GetShowing() && dialog.GetModalResult() == mrNone;
+                      Input.KeyPress(VK_RETURN);
+                  }),
+              mrNo);
+    EXPECT_TRUE(stayed);
+}
+
+TEST_F(MessageDialogTest, TheChoiceWithTheFocusIsLit) {
+    Ask(Three(), [&](auto& dialog) {
+        EXPECT_EQ(dialog.GetChoice(0).GetState(), bexHovered);
+        EXPECT_EQ(dialog.GetChoice(1).GetState(), bexNormal);
+        Input.KeyPress(VK_DOWN);
+        EXPECT_EQ(dialog.GetChoice(0).GetState(), bexNormal);
+        EXPECT_EQ(dialog.GetChoice(1).GetState(), bexHovered);
+        Input.KeyPress(VK_ESCAPE);
+    });
+}
+
+TEST_F(MessageDialogTest, ASingleLineStandsBesideTheMiddleOfTheIcon) {
+    Ask(Three(), [&](auto& dialog) {
+        TRect icon, text;
+        for (int i = 0; i < dialog.GetControlCount(); ++i) {
+            const TControl* control = dialog.GetControl(i);
+            if (!control->GetVisible()) continue;
+            if (dynamic_cast<const TImage*>(control)) icon = control->GetBoundsRect();
+            if (dynamic_cast<const TLabel*>(control)) text = control->GetBoundsRect();
+        }
+        EXPECT_EQ(icon.Height(), MessageIconSize);
+        EXPECT_LT(text.Height(), icon.Height());
+        EXPECT_NEAR(text.Top + text.Bottom, icon.Top + icon.Bottom, 1);
+        EXPECT_GT(dialog.GetChoice(0).GetTop(), icon.Bottom);
+        Input.KeyPress(VK_ESCAPE);
+    });
+}
+
+TEST_F(MessageDialogTest, ItStandsAboveTheMiddleOfTheActiveForm) {
+    TForm owner(nullptr);
+    owner.SetBounds(300, 250, 300, 200);
+    owner.Show();
+    PumpAll();
+    Ask(Three(), [&](auto& dialog) {
+        EXPECT_NEAR(dialog.GetLeft() + dialog.GetWidth() / 2, 450, 1);
+        EXPECT_NEAR(dialog.GetTop() + dialog.GetHeight() / 2, 350, 1);
+        Input.KeyPress(VK_ESCAPE);
+    });
+}
+
+TEST_F(MessageDialogTest, AChoiceThatIsFreedIsNone) {
+    TfrmQV7SkinMessageDialog dialog(nullptr);
+    for (const TQV7SkinMessageChoice& choice : Three())
+        dialog.AddChoice(choice);
+    delete &dialog.GetChoice(0);
+    EXPECT_EQ(dialog.GetChoiceCount(), 2);
+    When([&] { return dialog.GetShowing(); }, [&] { Input.KeyPress(VK_RETURN); });
+    EXPECT_EQ(dialog.ShowModal(), mrNo);
 }
 
 TEST_F(MessageDialogTest, ADialogWhoseFormIsFreedIsCancelled) {
