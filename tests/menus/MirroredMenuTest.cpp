@@ -106,6 +106,18 @@ TEST_F(MirroredMenuTest, AManagerThatIsBeingLoadedIsNotFilled) {
     EXPECT_EQ(Captions(*Bar), (Names{L"&File", L"&Edit"}));
 }
 
+TEST_F(MirroredMenuTest, ControlsThatAreNoneOfTheFrameworksFourAreLeftAlone) {
+    Replace();
+    TActionClientItem* client = Clients().GetItem(0);
+    for (const TMetaClass* meta :
+         {&TCustomMenuItem::StaticClass(), &TCustomMenuButton::StaticClass(),
+          &TQV7StyleMenuItem::StaticClass(), static_cast<const TMetaClass*>(nullptr)}) {
+        const TMetaClass* chosen = meta;
+        Bar->OnGetControlClass(Bar, client, chosen);
+        EXPECT_EQ(chosen, meta);
+    }
+}
+
 TEST_F(MirroredMenuTest, HiddenItemsStayHidden) {
     Save->SetVisible(false);
     Replace();
