@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/vcl/actions/ActionListRows.h"
 #include "platform/vcl/actions/ShortCutList.h"
 #include "platform/vcl/controls/Messages.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -21,14 +22,8 @@ const TMetaClass& TCustomActionList::StaticClass() {
 }
 
 const TMetaClass& TActionList::StaticClass() {
-    using C = TActionList;
-    static const TMetaClass meta = DefineClass<C>(L"TActionList", TCustomActionList::StaticClass())
-                                       .Property(L"Images", &C::GetImages, &C::SetImages)
-                                       .Property(L"State", &C::GetState, &C::SetState, asNormal)
-                                       .Event(L"OnChange", &C::OnChange)
-                                       .Event(L"OnExecute", &C::OnExecute)
-                                       .Event(L"OnStateChange", &C::OnStateChange)
-                                       .Event(L"OnUpdate", &C::OnUpdate);
+    static const TMetaClass meta =
+        DefineClass<TActionList>(L"TActionList", TCustomActionList::StaticClass()).With(ActionListRows);
     return meta;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/vcl/actions/ActionBar.h"
 #include "platform/vcl/actions/ActionClients.h"
+#include "platform/vcl/actions/ActionListRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/ImageList.h"
 
@@ -17,12 +18,7 @@ const TMetaClass& TActionManager::StaticClass() {
     using C = TActionManager;
     static const TMetaClass meta = DefineClass<C>(L"TActionManager", TCustomActionManager::StaticClass())
                                        .Property(L"ActionBars", &C::GetActionBars, &C::SetActionBars)
-                                       .Property(L"Images", &C::GetImages, &C::SetImages)
-                                       .Property(L"State", &C::GetState, &C::SetState, asNormal)
-                                       .Event(L"OnChange", &C::OnChange)
-                                       .Event(L"OnExecute", &C::OnExecute)
-                                       .Event(L"OnStateChange", &C::OnStateChange)
-                                       .Event(L"OnUpdate", &C::OnUpdate);
+                                       .With(ActionListRows);
     return meta;
 }
 
