@@ -192,7 +192,7 @@ TTreeNodes& TCustomQV7SkinTreeComboBox::GetTreeItems() const {
 }
 
 void TCustomQV7SkinTreeComboBox::SetNewText(const String& Value) {
-    NeedComboBox().SetNewText(Value);
+    if (GetComboBox()) FComboBox->SetNewText(Value);
 }
 
 void TCustomQV7SkinTreeComboBox::SelectAll() {

@@ -56,7 +56,7 @@ public:
     [[nodiscard]] TTreeNode* GetSelected() const;
     /// The nodes. Raises EInvalidOperation while there is no inner control.
     [[nodiscard]] TTreeNodes& GetTreeItems() const;
-    /// Shows the text and chooses the node that has it.
+    /// Shows the text and chooses the node that has it; does nothing at design time.
     void SetNewText(const String& Value);
     void SelectAll();
     /// The control of the frame; null at design time.

@@ -62,6 +62,9 @@ TEST_F(SkinTreeComboBox, HasNoInnerControlAtDesignTime) {
     EXPECT_EQ(frame->GetItemIndex(), 3);
     EXPECT_EQ(frame->GetItems().Get(0), L"\ty");
     EXPECT_EQ(frame->GetSelected(), nullptr);
+    frame->SetNewText(L"z");
+    frame->SelectAll();
+    EXPECT_EQ(frame->GetText(), L"x");
     EXPECT_THROW((void)frame->GetTreeItems(), EInvalidOperation);
     EXPECT_THROW((void)frame->GetDropDownCount(), EInvalidOperation);
 }
