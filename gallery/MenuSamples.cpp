@@ -63,7 +63,7 @@ void AddChoices(TMenuItem& parent, std::initializer_list<std::pair<const wchar_t
         item.SetRadioItem(true);
         item.SetAutoCheck(true);
         item.SetChecked(value == present);
-        item.OnClick = [choose, value](TObject*) { choose(value); };
+        item.OnClick = [choose, chosen = value](TObject*) { choose(chosen); };
     }
 }
 
