@@ -2,7 +2,10 @@
 
 #include <commctrl.h>
 
+#include <exception>
+
 #include "platform/flatstyle/FlatArrow.h"
+#include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/core/OsErrors.h"
 #include "platform/vcl/graphics/Canvas.h"
 
@@ -45,7 +48,11 @@ LRESULT CALLBACK TUpDownWindow::Procedure(HWND window, UINT msg, WPARAM wParam, 
     auto& owner = *reinterpret_cast<TUpDownWindow*>(self);
     switch (msg) {
         case WM_PAINT:
-            owner.Paint();
+            try {
+                owner.Paint();
+            } catch (...) {
+                AppServices().HandleException(std::current_exception());
+            }
             return 0;
         case WM_ERASEBKGND:
             return 1;
@@ -55,12 +62,22 @@ LRESULT CALLBACK TUpDownWindow::Procedure(HWND window, UINT msg, WPARAM wParam, 
 }
 
 void TUpDownWindow::Paint() {
-    PAINTSTRUCT paint{};
-    const HDC dc = ::BeginPaint(FWindow, &paint);
-    if (!dc) return;
+    struct TPainting {
+        explicit TPainting(HWND window) : Window(window), Dc(::BeginPaint(window, &Paint)) {}
+        ~TPainting() {
+            if (Dc) ::EndPaint(Window, &Paint);
+        }
+        TPainting(const TPainting&) = delete;
+        TPainting& operator=(const TPainting&) = delete;
+        HWND Window;
+        PAINTSTRUCT Paint{};
+        HDC Dc;
+    };
+    const TPainting painting(FWindow);
+    if (!painting.Dc) return;
     {
         TCanvas canvas;
-        canvas.SetHandle(dc);
+        canvas.SetHandle(painting.Dc);
         TRect client;
         ::GetClientRect(FWindow, client.AsRect());
         canvas.GetBrush().SetColor(FColor);
@@ -76,7 +93,6 @@ void TUpDownWindow::Paint() {
         }
         canvas.SetHandle(nullptr);
     }
-    ::EndPaint(FWindow, &paint);
 }
 
 }  // namespace flatstyle
