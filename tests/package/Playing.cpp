@@ -50,14 +50,17 @@ bool IsInMenu() {
 
 }  // namespace
 
-void RescueLater() {
+void RescueLater(int attempt) {
+    constexpr int attemptsByKey = 5;
     const auto limit = GetTickCount64() + LoopTooLong;
     When([limit] { return IsInMenu() || GetTickCount64() > limit; },
-         [] {
+         [attempt] {
              SendKey(VK_ESCAPE, 0);
              SendKey(VK_ESCAPE, KEYEVENTF_KEYUP);
              SendLeftUp();
-             RescueLater();
+             // The key goes nowhere when nothing has the focus.
+             if (attempt > attemptsByKey) EndMenu();
+             RescueLater(attempt + 1);
          });
 }
 
@@ -68,27 +71,35 @@ void Wait(const Play& play, milliseconds limit = ShortWait) {
 }
 
 /// Places on a control that differ in what lies there: an item, edges, where buttons are.
-constexpr int PlaceCount = 6;
+constexpr int Places = 6;
 
-POINT Place(const LivingScene& scene, int index) {
+}  // namespace
+
+int PlaceCount() {
+    return Places;
+}
+
+POINT PlaceOn(const LivingScene& scene, int index) {
     const TControl& control = *scene.Target();
     const TRect client = control.GetClientRect();
     const int middleX = client.Right / 2;
     const int middleY = client.Bottom / 2;
-    const std::array<TPoint, PlaceCount - 1> places{TPoint(9, middleY), TPoint(client.Right - 9, middleY / 2),
-                                                    TPoint(client.Right - 9, middleY + middleY / 2),
-                                                    TPoint(middleX / 2, client.Bottom - 4), TPoint(3, 3)};
+    const std::array<TPoint, Places - 1> places{TPoint(9, middleY), TPoint(client.Right - 9, middleY / 2),
+                                                TPoint(client.Right - 9, middleY + middleY / 2),
+                                                TPoint(middleX / 2, client.Bottom - 4), TPoint(3, 3)};
     const TPoint point =
         index == 0 ? scene.Spot() : control.ClientToScreen(places[static_cast<std::size_t>(index - 1)]);
     return {point.X, point.Y};
 }
+
+namespace {
 
 POINT Moved(POINT point, int dx, int dy) {
     return {point.x + dx, point.y + dy};
 }
 
 void Hover(const Play& play, int index) {
-    const POINT point = Place(play.Scene, index);
+    const POINT point = PlaceOn(play.Scene, index);
     play.Input.MoveTo(point);
     play.Input.MoveTo(Moved(point, 1, 0));
     Wait(play);
@@ -97,7 +108,7 @@ void Hover(const Play& play, int index) {
 }
 
 void Click(const Play& play, int index, MouseButton button, bool twice) {
-    play.Input.MoveTo(Place(play.Scene, index));
+    play.Input.MoveTo(PlaceOn(play.Scene, index));
     play.Input.Click(button);
     if (twice) {
         play.Input.Press(button);
@@ -111,7 +122,7 @@ void Click(const Play& play, int index, MouseButton button, bool twice) {
 }
 
 void Drag(const Play& play, int index, int dx, int dy) {
-    const POINT from = Place(play.Scene, index);
+    const POINT from = PlaceOn(play.Scene, index);
     play.Input.Drag(from, Moved(from, dx, dy));
     play.Input.MoveAway();
     Wait(play);
@@ -123,7 +134,7 @@ void DragAndDrop(const Play& play, bool subject) {
     TControl* dragged = subject ? play.Scene.Target() : play.Scene.Other();
     const TPoint start = dragged->ClientToScreen({4, 4});
     const POINT from{start.X, start.Y};
-    const POINT to = Place(play.Scene, 4);
+    const POINT to = PlaceOn(play.Scene, 4);
     dragged->BeginDrag(true);
     play.Input.MoveTo(from);
     play.Input.Press();
@@ -140,7 +151,7 @@ void FocusTo(const Play& play, TControl* control) {
 }
 
 void Turn(const Play& play, int notches) {
-    play.Input.MoveTo(Place(play.Scene, 0));
+    play.Input.MoveTo(PlaceOn(play.Scene, 0));
     FocusTo(play, play.Scene.Control());
     play.Input.Wheel(notches);
     Wait(play);
@@ -192,7 +203,7 @@ void ChooseFirst(EventGenerator& input) {
 
 /// A context menu, and its first item.
 void Choose(const Play& play) {
-    play.Input.MoveTo(Place(play.Scene, 0));
+    play.Input.MoveTo(PlaceOn(play.Scene, 0));
     ChooseFirst(play.Input);
     play.Input.Click(MouseButton::Right);
     Wait(play);
@@ -309,7 +320,7 @@ void ShowHint(const Play& play) {
     TControl* target = play.Scene.Target();
     target->SetHint(L"Hint");
     target->SetShowHint(true);
-    const POINT point = Place(play.Scene, 0);
+    const POINT point = PlaceOn(play.Scene, 0);
     play.Input.MoveTo(point);
     Application().SetHint({});
     Application().DoIdle();
@@ -319,13 +330,13 @@ void ShowHint(const Play& play) {
 
 void Idle(const Play& play) {
     // The mouse is over it, as hints and actions ask.
-    play.Input.MoveTo(Place(play.Scene, 0));
+    play.Input.MoveTo(PlaceOn(play.Scene, 0));
     Application().DoIdle();
     Wait(play);
 }
 
 void AddMouse(std::vector<Step>& steps) {
-    for (int i = 0; i < PlaceCount; ++i) {
+    for (int i = 0; i < Places; ++i) {
         const std::string at = " at place " + std::to_string(i);
         steps.push_back({"hover" + at, [i](const Play& play) { Hover(play, i); }});
         steps.push_back({"click" + at, [i](const Play& play) { Click(play, i, MouseButton::Left, false); }});
@@ -398,8 +409,8 @@ void AddProgram(std::vector<Step>& steps) {
 
 bool IsCovered(const LivingScene& scene) {
     const auto* window = dynamic_cast<const TWinControl*>(scene.Control());
-    for (int i = 0; window && i < PlaceCount; ++i)
-        if (WindowFromPoint(Place(scene, i)) == const_cast<TWinControl*>(window)->GetHandle()) return false;
+    for (int i = 0; window && i < Places; ++i)
+        if (WindowFromPoint(PlaceOn(scene, i)) == const_cast<TWinControl*>(window)->GetHandle()) return false;
     return window;
 }
 

@@ -23,6 +23,11 @@ struct Step {
     std::function<void(const Play&)> Run;
 };
 
+/// Places on the target, in pixels of the screen, that differ in what lies there: an item, edges, where
+/// buttons are. The index is less than `PlaceCount()`.
+[[nodiscard]] int PlaceCount();
+[[nodiscard]] POINT PlaceOn(const LivingScene& scene, int index);
+
 /// Whether other windows lie on the control wherever steps point.
 [[nodiscard]] bool IsCovered(const LivingScene& scene);
 
@@ -31,7 +36,7 @@ struct Step {
 
 /// Until the steps of `Later` are dropped: leaves menus as soon as one is open, and any other loop that runs
 /// too long. Those of the system's scroll bars wait for the button.
-void RescueLater();
+void RescueLater(int attempt = 0);
 
 /// Shows the scene, says so, and runs the step. Menus and other modal loops that it opens are left by Escape.
 void RunStep(const Step& step, const Play& play, const std::function<void()>& shown);

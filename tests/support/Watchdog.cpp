@@ -47,17 +47,6 @@ RunningTest* Running() {
     return listener;
 }
 
-void Watch(ULONGLONG limit) {
-    for (;;) {
-        Sleep(500);
-        const std::string late = Running()->LateTest(limit);
-        if (late.empty()) continue;
-        std::printf("\n[  FAILED  ] %s hangs: ended after %llu s\n", late.c_str(), limit / 1000);
-        std::fflush(stdout);
-        TerminateProcess(GetCurrentProcess(), 98);
-    }
-}
-
 /// An address as a place in its module, for addr2line.
 void PrintPlace(const void* address) {
     std::printf("\n    at %p", address);
@@ -75,15 +64,41 @@ void PrintPlace(const void* address) {
 
 /// The calls that led to the crash, the innermost first.
 void PrintCalls(CONTEXT context) {
-    constexpr int mostCalls = 16;
+    constexpr int mostCalls = 24;
     for (int i = 0; i < mostCalls && context.Rip; ++i) {
         PrintPlace(reinterpret_cast<const void*>(context.Rip));
         DWORD64 base = 0;
         const auto function = RtlLookupFunctionEntry(context.Rip, &base, nullptr);
-        if (!function) return;
+        if (!function) {
+            // Without a description: a leaf, whose caller is on top of the stack.
+            context.Rip = *reinterpret_cast<const DWORD64*>(context.Rsp);
+            context.Rsp += sizeof context.Rip;
+            continue;
+        }
         void* handler = nullptr;
         DWORD64 frame = 0;
         RtlVirtualUnwind(UNW_FLAG_NHANDLER, base, context.Rip, function, &context, &handler, &frame, nullptr);
+    }
+}
+
+/// Where the thread is, which is stopped for that.
+void PrintCallsOf(HANDLE thread) {
+    CONTEXT context{};
+    context.ContextFlags = CONTEXT_FULL;
+    SuspendThread(thread);
+    if (GetThreadContext(thread, &context)) PrintCalls(context);
+}
+
+void Watch(ULONGLONG limit, HANDLE tested) {
+    for (;;) {
+        Sleep(500);
+        const std::string late = Running()->LateTest(limit);
+        if (late.empty()) continue;
+        std::printf("\n[  FAILED  ] %s hangs: ended after %llu s", late.c_str(), limit / 1000);
+        PrintCallsOf(tested);
+        std::printf("\n");
+        std::fflush(stdout);
+        TerminateProcess(GetCurrentProcess(), 98);
     }
 }
 
@@ -102,7 +117,10 @@ LONG WINAPI ReportCrash(EXCEPTION_POINTERS* what) {
 void StartWatchdog(int secondsPerTest) {
     if (secondsPerTest <= 0) return;
     Running();
-    std::thread(Watch, static_cast<ULONGLONG>(secondsPerTest) * 1000).detach();
+    HANDLE self = nullptr;
+    DuplicateHandle(GetCurrentProcess(), GetCurrentThread(), GetCurrentProcess(), &self, 0, FALSE,
+                    DUPLICATE_SAME_ACCESS);
+    std::thread(Watch, static_cast<ULONGLONG>(secondsPerTest) * 1000, self).detach();
 }
 
 void EndOnCrash() {
