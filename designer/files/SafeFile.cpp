@@ -36,6 +36,20 @@ bool WriteAll(HANDLE file, std::string_view bytes) {
     return ::FlushFileBuffers(file) != FALSE;
 }
 
+/// Puts the new file in the place of the old one. Who reads the old one just then (a search index, a scanner)
+/// is done with it in a moment.
+bool Replace(const String& beside, const String& fileName) {
+    constexpr DWORD flags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
+    constexpr int tries = 20;
+    constexpr DWORD pause = 20;  // milliseconds
+    for (int i = 1; !::MoveFileExW(beside.c_str(), fileName.c_str(), flags); ++i) {
+        const DWORD error = ::GetLastError();
+        if (i == tries || (error != ERROR_SHARING_VIOLATION && error != ERROR_ACCESS_DENIED)) return false;
+        ::Sleep(pause);
+    }
+    return true;
+}
+
 }  // namespace
 
 void WriteFileSafely(const String& fileName, std::string_view bytes) {
@@ -45,8 +59,7 @@ void WriteFileSafely(const String& fileName, std::string_view bytes) {
     if (!file.IsOpen()) throw EFCreateError(Format(L"Cannot create file \"%s\"", beside));
     const bool written = WriteAll(file.Get(), bytes);
     file.Close();
-    constexpr DWORD replace = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (!written || !::MoveFileExW(beside.c_str(), fileName.c_str(), replace)) {
+    if (!written || !Replace(beside, fileName)) {
         ::DeleteFileW(beside.c_str());
         throw EWriteError(Format(L"Cannot write file \"%s\"", fileName));
     }

@@ -88,8 +88,7 @@ void TDesignerWindow::OfferLeftWork() {
         // It goes only when this program has kept it itself. What else was left waits for the next start.
         Try([&] {
             FFile.Recover(work.FileName, work.Text);
-            KeepWork();
-            TAutoSave::Forget(work);
+            if (KeepWork()) TAutoSave::Forget(work);
         });
         UpdateTitle();
         return;

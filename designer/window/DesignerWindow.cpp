@@ -194,16 +194,23 @@ void TDesignerWindow::ShowContextMenu(TPoint screen) {
     FContextMenu->Popup(screen.X, screen.Y);
 }
 
-/// Keeps unsaved work for the case that the program ends without asking.
-void TDesignerWindow::KeepWork() {
+/// Keeps unsaved work for the case that the program ends without asking. Should that fail, the status says
+/// so, and the next time tries again.
+bool TDesignerWindow::KeepWork() {
     FUnkeptSince.reset();
     const std::string& work = FTypedText ? *FTypedText : FDocument.Text();
-    if (FKept == work) return;
-    if (FTypedText || FDocument.IsModified())
-        FAutoSave.Keep(FFile.Name(), work);
-    else
-        FAutoSave.Discard();
+    if (FKept == work) return true;
+    try {
+        if (FTypedText || FDocument.IsModified())
+            FAutoSave.Keep(FFile.Name(), work);
+        else
+            FAutoSave.Discard();
+    } catch (const Exception& error) {
+        ShowStatus(error.Message());
+        return false;
+    }
     FKept = work;
+    return true;
 }
 
 void TDesignerWindow::ClockTimer(TObject*) {

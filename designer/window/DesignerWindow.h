@@ -92,7 +92,7 @@ private:
     void OpenItem(TComponent* item);
     void ShowContextMenu(TPoint screen);
     void ClockTimer(TObject* sender);
-    void KeepWork();
+    bool KeepWork();
     void KeepWorkInTime();
     void TextChange(TObject* sender);
     void WindowActivate(TObject* sender);

@@ -1,5 +1,7 @@
 #include "designer/files/AutoSave.h"
 
+#include <thread>
+
 #include "designer/files/SafeFile.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "tests/support/LedgerTest.h"
@@ -72,6 +74,22 @@ TEST_F(AutoSaveTest, AFileIsReplacedWhole) {
     EXPECT_EQ(Dir.Read(L"form.dfm"), "new text");
     EXPECT_EQ(ReadWholeFile(file), "new text");
     EXPECT_EQ(FileCount(), 1u) << "nothing stays beside it";
+}
+
+TEST_F(AutoSaveTest, WhoReadsAFileForAMomentDoesNotHinder) {
+    const String file = Dir.Write(L"form.dfm", "old");
+    const HANDLE open =
+        ::CreateFileW(file.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(open, INVALID_HANDLE_VALUE);
+    const String beside = file + L".neu";
+    std::thread reader([&] {
+        while (FileTimeOf(beside) == 0)
+            std::this_thread::yield();
+        ::CloseHandle(open);
+    });
+    EXPECT_NO_THROW(WriteFileSafely(file, "new"));
+    reader.join();
+    EXPECT_EQ(Dir.Read(L"form.dfm"), "new");
 }
 
 TEST_F(AutoSaveTest, AFileThatCannotBeReplacedStays) {
