@@ -29,7 +29,7 @@ void DrawScene(TCanvas& canvas, int width, int height) {
     canvas.GetBrush().SetColor(clWhite);
     canvas.Polygon(std::array{TPoint{width * 32 / 100, height * 30 / 100}, TPoint{width * 4 / 10, height / 5},
                               TPoint{width * 48 / 100, height * 30 / 100}});
-    canvas.GetBrush().SetColor(0x00183818);
+    canvas.GetBrush().SetColor(clBlack);
     canvas.Polygon(std::array{TPoint{width * 72 / 100, height * 9 / 10},
                               TPoint{width * 8 / 10, height * 4 / 10},
                               TPoint{width * 88 / 100, height * 9 / 10}});
