@@ -285,6 +285,24 @@ TEST_F(PicturedDrag, ThePictureOfTheItemFollowsThePointer) {
     EXPECT_EQ(ImageWindow(), nullptr);
 }
 
+TEST_F(PicturedDrag, ThePictureIsInTheControlsFont) {
+    class TOpenObject : public TQV7SkinHeaderDragObject {
+    public:
+        using TQV7SkinHeaderDragObject::DrawDragIcon;
+        using TQV7SkinHeaderDragObject::TQV7SkinHeaderDragObject;
+    };
+    Strip->GetFont().SetSize(16);
+    TQV7SkinHeaderItemTab* const tab = AddTab(L"Caption");
+    const TRect place = Strip->GetItemRect(tab);
+    TBitmap picture(place.Width(), place.Height(), pf24bit), expected(place.Width(), place.Height(), pf24bit);
+    TOpenObject(Strip, tab).DrawDragIcon(picture);
+    expected.GetCanvas().SetFont(Strip->GetFont());
+    int x = 0;
+    tab->Draw(expected.GetCanvas(), x, place.Height());
+    EXPECT_EQ(x, place.Width());
+    EXPECT_TRUE(SamePixels(test::ReadBitmap(picture.GetHandle()), test::ReadBitmap(expected.GetHandle())));
+}
+
 TEST_F(PicturedDrag, TheCursorIsRegisteredAndTellsTheAnswer) {
     Lift(20);
     const HCURSOR arrow = Screen().GetCursorHandle(crArrow);

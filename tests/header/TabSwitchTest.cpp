@@ -102,6 +102,29 @@ TEST_F(TabSwitching, ARefusalLeavesTheKeyToTheForm) {
     EXPECT_EQ(Selected(), L"A");
 }
 
+/// Counts the dialog keys that it is asked about.
+class TKeyProbe : public TPanel {
+public:
+    using TPanel::TPanel;
+    int Keys = 0;
+
+protected:
+    void Dispatch(TMessage& message) override {
+        Keys += message.Msg == CM_DIALOGKEY;
+        TPanel::Dispatch(message);
+    }
+};
+
+TEST_F(TabSwitching, ARefusedKeyReachesWhatStandsOnTheStrip) {
+    const auto* const child = Make<TKeyProbe>({280, 0, 300, 20}, Strip);
+    Allow(true);
+    Forward();
+    EXPECT_EQ(child->Keys, 0) << "the key was used up";
+    Allow(false);
+    Forward();
+    EXPECT_EQ(child->Keys, 1);
+}
+
 TEST_F(TabSwitching, TabAloneMovesTheFocus) {
     Allow(true);
     auto* other = Make<TEdit>({20, 130, 120, 151});
