@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/vcl/controls/ControlParts.h"
 #include "platform/vcl/controls/PublishedRows.h"
 
 namespace vcl {
@@ -171,6 +172,14 @@ void TMonthCalendar::ChooseByUser(TDate value) {
     if (value == FDate) return;
     FDate = value;
     Click();
+}
+
+void TMonthCalendar::DefaultHandler(TMessage& message) {
+    // The system's calendar would show a menu of its own.
+    if (message.Msg == WM_RBUTTONUP && MenuHolderOf(*this))
+        message.Result = ::DefWindowProcW(WindowHandle(), message.Msg, message.WParam, message.LParam);
+    else
+        TWinControl::DefaultHandler(message);
 }
 
 void TMonthCalendar::Dispatch(TMessage& message) {

@@ -72,6 +72,7 @@ public:
 
 protected:
     void Dispatch(TMessage& message) override;
+    void DefaultHandler(TMessage& message) override;
     void CreateParams(TCreateParams& params) override;
     void CreateWnd() override;
 
