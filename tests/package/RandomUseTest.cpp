@@ -9,6 +9,7 @@
 #include "platform/vcl/controls/Drag.h"
 #include "platform/vcl/controls/Messages.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Ledger.h"
 #include "platform/vcl/forms/Form.h"
 #include "platform/vcl/stdctrls/Panel.h"
 #include "platform/vcl/streaming/ClassRegistry.h"
@@ -76,6 +77,7 @@ protected:
         SCOPED_TRACE("seed " + std::to_string(seed));
         std::printf("seed %u, %d steps\n", seed, steps);
         FRandom.seed(seed);
+        const TLedger::Counts before = TLedger::Snapshot();
         FForm = FullForm();
         FForm->Show();
         PumpAll();
@@ -92,10 +94,16 @@ protected:
             CheckErrors();
             if (!FForm->GetVisible()) FForm->Show();
         }
-        Input.Release();
+        for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle})
+            Input.Release(button);
         CancelDrag();
         FForm.reset();
+        PumpAll();
+        Application().CancelHint();
+        Application().DoIdle();
         CheckErrors();
+        for (const auto& [kind, count] : TLedger::Difference(before, TLedger::Snapshot()))
+            ADD_FAILURE() << kind << " " << count;
     }
 
 private:
