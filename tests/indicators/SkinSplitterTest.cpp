@@ -139,6 +139,13 @@ TEST_F(SkinSplitterTest, OneThatIsNotAlignedChangesNoSize) {
     EXPECT_EQ(Bar->Ask(395), 395);
 }
 
+TEST_F(SkinSplitterTest, OneThatStandsNowhereChangesNoSize) {
+    ProbeSplitter bar(nullptr);
+    bar.SetAutoSnap(false);
+    bar.GetMinConstraints().SetLeft(100);
+    EXPECT_EQ(bar.Ask(50), 50);
+}
+
 TEST_F(SkinSplitterTest, LeastSizesTellTheirChangesOnce) {
     TQV7SkinSplitterSizeConstraints a(nullptr), b(nullptr);
     int changes = 0;

@@ -436,6 +436,23 @@ TEST_F(MaskingPanelTest, AFormFileMayMaskBeforeItNamesTheControl) {
     EXPECT_TRUE(masking.GetMasked());
 }
 
+TEST_F(MaskingPanelTest, AControlOfAFormFileThatIsFreedIsForgottenUnmaskedToo) {
+    TMaskingPanelImagesFromResource masking(nullptr);
+    masking.BeginLoading();
+    masking.Control = FMasked;
+    masking.EndLoading();
+    delete FMasked;
+    EXPECT_EQ(masking.Control, nullptr);
+}
+
+TEST_F(MaskingPanelTest, ThePictureCoversTheWholeMask) {
+    FMasked->SetBounds(20, 30, 250, 160);
+    TMaskingPanelImagesFromResource masking(nullptr);
+    masking.Control = FMasked;
+    masking.Mask();
+    EXPECT_EQ(masking.GetMaskPanel()->GetControl(0)->GetBoundsRect(), TRect(0, 0, 250, 160));
+}
+
 // --- Many times
 
 TEST_F(MaskingPanelTest, MaskingManyTimesLeavesNothingBehind) {
