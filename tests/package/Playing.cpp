@@ -227,7 +227,7 @@ void Resize(const Play& play) {
 
 void Hide(const Play& play) {
     Focus(play);
-    play.Scene.Target()->SetVisible(false);
+    if (play.Scene.Target()) play.Scene.Target()->SetVisible(false);
     PumpAll();
     if (play.Scene.Target()) play.Scene.Target()->SetVisible(true);
     Wait(play);
@@ -235,7 +235,7 @@ void Hide(const Play& play) {
 
 void Disable(const Play& play) {
     Focus(play);
-    play.Scene.Target()->SetEnabled(false);
+    if (play.Scene.Target()) play.Scene.Target()->SetEnabled(false);
     PumpAll();
     if (play.Scene.Target()) play.Scene.Target()->SetEnabled(true);
     Wait(play);
@@ -303,9 +303,10 @@ void ShowModal(const Play& play) {
 }
 
 void TellSystemChanges(const Play& play) {
-    for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_FONTCHANGE, WM_THEMECHANGED})
-        for (const HWND window : {Application().GetHandle(), play.Scene.Form()->GetHandle()})
-            if (play.Scene.Form()) SendMessageW(window, message, 0, 0);
+    for (const UINT message : {WM_SYSCOLORCHANGE, WM_SETTINGCHANGE, WM_FONTCHANGE, WM_THEMECHANGED}) {
+        SendMessageW(Application().GetHandle(), message, 0, 0);
+        if (play.Scene.Form()) SendMessageW(play.Scene.Form()->GetHandle(), message, 0, 0);
+    }
     Wait(play);
 }
 
