@@ -126,6 +126,8 @@ void TScreen::Tell(const TNotifyEvent& event) {
 }
 
 void TScreen::FocusMoved(TCustomForm* form, TWinControl* control) {
+    // The focus may move about in a form that goes; it has been taken out for good.
+    if (!HasForm(form)) return;
     const bool otherForm = std::exchange(FActiveForm, form) != form;
     const bool otherControl = std::exchange(FActiveControl, control) != control;
     std::erase(FForms, form);
