@@ -18,6 +18,11 @@ void TDesignDocument::MarkSaved() {
     OnChange();
 }
 
+void TDesignDocument::MarkUnsaved() {
+    FHistory.MarkUnsaved();
+    OnChange();
+}
+
 void TDesignDocument::Begin(const TFormDocument& document, std::vector<TFormDocument> ancestors) {
     Rebuild([&] { FForm.Load(document, std::move(ancestors)); });
     FSelection.Clear();

@@ -28,6 +28,8 @@ public:
     [[nodiscard]] const std::string& Text() const { return FText; }
     [[nodiscard]] bool IsModified() const { return !FHistory.IsSaved(); }
     void MarkSaved();
+    /// The file holds something else from now on.
+    void MarkUnsaved();
 
     /// Begins with another form file, without history. What is wrong in it stands in `Form().Problems()`.
     /// A form that inherits others needs their documents, the oldest first. Raises EFormError when they are

@@ -32,6 +32,8 @@ public:
 
     /// The present state is the one in the file.
     void MarkSaved() { FSaved = FPosition; }
+    /// No state is the one in the file any more.
+    void MarkUnsaved() { FSaved.reset(); }
     [[nodiscard]] bool IsSaved() const { return FSaved == FPosition; }
     [[nodiscard]] std::size_t Count() const { return FSteps.size(); }
     /// How many of the edits are done and not undone.

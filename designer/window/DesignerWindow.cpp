@@ -242,7 +242,11 @@ void TDesignerWindow::TextChange(TObject*) {
 }
 
 void TDesignerWindow::WindowActivate(TObject*) {
-    if (!FFile.NoticeChangeOnDisk() || !FDialogs->AskToReload(FFile.Title())) return;
+    if (!FFile.NoticeChangeOnDisk()) return;
+    if (!FDialogs->AskToReload(FFile.Title())) {
+        FDocument.MarkUnsaved();
+        return;
+    }
     try {
         FFile.Open(String(FFile.Name()));
     } catch (const Exception& error) {

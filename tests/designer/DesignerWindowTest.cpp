@@ -223,6 +223,18 @@ TEST_F(DesignerWindowTest, AChangeOnDiskIsNoticed) {
     EXPECT_EQ(Answers.Questions, 1) << "only once";
 }
 
+TEST_F(DesignerWindowTest, WhatIsKeptAgainstAChangeOnDiskIsNotSaved) {
+    const String file = Dir.Write(L"form.dfm", SampleFile);
+    Window->OpenFile(file);
+    ASSERT_FALSE(Document().IsModified());
+    test::AgeFile(file);
+    Answers.Yes = false;
+    Window->OnActivate(Window.get());
+    EXPECT_EQ(Answers.Questions, 1);
+    EXPECT_TRUE(Document().IsModified());
+    EXPECT_TRUE(TextHas("Caption = 'Fertig'"));
+}
+
 TEST_F(DesignerWindowTest, WorkThatWasLeftBehindIsOffered) {
     Dir.Write(L"form.dfm", SampleFile);
     std::string text = SampleFile;
