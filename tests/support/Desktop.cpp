@@ -10,7 +10,7 @@ namespace {
 /// The first window on a desktop starts the process that owns the desktop's own window. That takes a moment,
 /// and many on a machine whose processors are all busy with other tests.
 bool WaitUntilWindowsCanBeMade() {
-    for (const ULONGLONG end = GetTickCount64() + 30'000; GetTickCount64() < end; Sleep(20)) {
+    for (const ULONGLONG end = GetTickCount64() + 10'000; GetTickCount64() < end; Sleep(20)) {
         const HWND window = CreateWindowExW(0, L"STATIC", nullptr, WS_POPUP, 0, 0, 1, 1, nullptr, nullptr,
                                             GetModuleHandleW(nullptr), nullptr);
         if (window && DestroyWindow(window)) return true;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -13,6 +14,10 @@ namespace vcl {
 namespace {
 
 constexpr std::array OrientationNames{L"trHorizontal", L"trVertical"};
+
+/// More ticks than any screen has pixels; the system keeps a number for each, and does without memory for
+/// them badly.
+constexpr int MostTicks = 16'384;
 
 void RegisterSystemClass() {
     INITCOMMONCONTROLSEX wanted{sizeof wanted, ICC_BAR_CLASSES};
@@ -62,15 +67,13 @@ void TTrackBar::SetParams(int position, int min, int max) {
     if (max < min) throw EInvalidOperation(L"Track bar property out of range");
     position = std::clamp(position, min, max);
     const bool moved = position != FPosition;
-    if (!moved && min == FMin && max == FMax) return;
+    const bool scaled = min != FMin || max != FMax;
+    if (!moved && !scaled) return;
     FMin = min;
     FMax = max;
     FPosition = position;
-    if (HandleAllocated()) {
-        ::SendMessageW(WindowHandle(), TBM_SETRANGEMIN, FALSE, FMin);
-        ::SendMessageW(WindowHandle(), TBM_SETRANGEMAX, FALSE, FMax);
-        ::SendMessageW(WindowHandle(), TBM_SETPOS, TRUE, FPosition);
-    }
+    if (scaled && HandleAllocated()) SendScale();
+    if (HandleAllocated()) ::SendMessageW(WindowHandle(), TBM_SETPOS, TRUE, FPosition);
     if (moved) Changed();
 }
 
@@ -89,7 +92,18 @@ void TTrackBar::SetPageSize(int value) {
 void TTrackBar::SetFrequency(int value) {
     if (value == FFrequency) return;
     FFrequency = value;
-    if (HandleAllocated()) ::SendMessageW(WindowHandle(), TBM_SETTICFREQ, static_cast<WPARAM>(value), 0);
+    if (HandleAllocated()) SendScale();
+}
+
+// Each change of the range makes the ticks anew, so there are none until the range is whole.
+void TTrackBar::SendScale() {
+    const HWND window = WindowHandle();
+    const auto range = std::int64_t{FMax} - FMin;
+    const auto frequency = FFrequency <= 0 ? 0 : std::max<std::int64_t>(FFrequency, range / MostTicks);
+    ::SendMessageW(window, TBM_SETTICFREQ, 0, 0);
+    ::SendMessageW(window, TBM_SETRANGEMIN, FALSE, FMin);
+    ::SendMessageW(window, TBM_SETRANGEMAX, FALSE, FMax);
+    ::SendMessageW(window, TBM_SETTICFREQ, static_cast<WPARAM>(frequency), 0);
 }
 
 void TTrackBar::CreateParams(TCreateParams& params) {
@@ -102,11 +116,9 @@ void TTrackBar::CreateParams(TCreateParams& params) {
 void TTrackBar::CreateWnd() {
     TWinControl::CreateWnd();
     const HWND window = WindowHandle();
-    ::SendMessageW(window, TBM_SETRANGEMIN, FALSE, FMin);
-    ::SendMessageW(window, TBM_SETRANGEMAX, FALSE, FMax);
     ::SendMessageW(window, TBM_SETLINESIZE, 0, FLineSize);
     ::SendMessageW(window, TBM_SETPAGESIZE, 0, FPageSize);
-    ::SendMessageW(window, TBM_SETTICFREQ, static_cast<WPARAM>(FFrequency), 0);
+    SendScale();
     ::SendMessageW(window, TBM_SETPOS, TRUE, FPosition);
 }
 

@@ -39,7 +39,8 @@ public:
     void SetLineSize(int value);
     [[nodiscard]] int GetPageSize() const { return FPageSize; }
     void SetPageSize(int value);
-    /// Every how many units a tick stands.
+    /// Every how many units a tick stands; without ticks when it is not above 0. Ranges of many units have at
+    /// most 16,384 ticks.
     [[nodiscard]] int GetFrequency() const { return FFrequency; }
     void SetFrequency(int value);
 
@@ -50,6 +51,8 @@ protected:
     virtual void Changed();
 
 private:
+    void SendScale();
+
     TTrackBarOrientation FOrientation = trHorizontal;
     int FMin = 0;
     int FMax = 10;
