@@ -1,14 +1,12 @@
 #include "explorerbar/groups/ExplorerSkin.h"
 
 #include "skin/surfaces/Loaders.h"
+#include "skin/utils/SharedWhileUsed.h"
 
 namespace qv7skin {
 
 std::shared_ptr<const TExplorerSkin> TExplorerSkin::Shared() {
-    static std::weak_ptr<const TExplorerSkin> inUse;
-    auto skin = inUse.lock();
-    if (!skin) inUse = skin = std::make_shared<const TExplorerSkin>();
-    return skin;
+    return SharedWhileUsed<TExplorerSkin>();
 }
 
 TExplorerSkin::TExplorerSkin()

@@ -138,18 +138,6 @@ TEST_F(PopupWindowItem, TheReturnKeyOpensTheFocusedOnesWindow) {
     EXPECT_EQ(clicks, 0);
 }
 
-TEST_F(PopupWindowItem, ReturnOnTheFocusedItemOpensItsWindow) {
-    int clicks = 0;
-    PopupItem().OnClick = [&](TObject*) { ++clicks; };
-    Bar().SetFocus();
-    Input.KeyPress(VK_TAB);
-    Input.KeyPress(VK_TAB);
-    ASSERT_TRUE(PopupItem().IsFocused());
-    Input.KeyPress(VK_RETURN);
-    EXPECT_TRUE(Window().GetVisible());
-    EXPECT_EQ(clicks, 0);
-}
-
 TEST_F(PopupWindowItem, InAScrolledBarItsWindowStandsLowerByTheScrollPosition) {
     Bar().BeginUpdate();
     for (int i = 0; i < 40; ++i)
