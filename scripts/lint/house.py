@@ -38,6 +38,10 @@ MAY_INCLUDE = {
 # Folders whose headers a host includes: their classes carry a docstring.
 PUBLIC = (VCL, *BASES, *PACKAGE)
 
+# Where code of the documents may stand; that of the manual which no example has is compiled and tried in CHAPTERS.
+RUNNABLE = ("examples", "tests", "bench")
+CHAPTERS = "tests/manual"
+
 # Lines of a file: more than the first is worth a thought, more than the second fails.
 LONG_FILE = 500
 LONGEST_FILE = 700

@@ -26,6 +26,7 @@ CHECKS: dict[str, Check] = {
     "names": text_checks.names,
     "modes": text_checks.modes,
     "links": text_checks.links,
+    "examples": text_checks.examples,
     "includes": code_checks.includes,
     "own-header": code_checks.own_header_first,
     "circles": code_checks.circles,

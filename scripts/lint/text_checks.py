@@ -66,7 +66,38 @@ def links() -> Iterator[str]:
     """Links of the documents lead somewhere"""
     for path in tree.with_suffix(".md"):
         folder = (tree.ROOT / path).parent
+        inside = False
         for number, line in enumerate(tree.lines(path), 1):
-            for target in re.findall(r"\]\(([^)#\s]+)[^)]*\)", line):
+            inside ^= line.lstrip().startswith("```")
+            for target in [] if inside else re.findall(r"\]\(([^)#\s]+)[^)]*\)", line):
                 if "://" not in target and not (folder / target).exists():
                     yield f"{path}:{number}: {target} is not there"
+
+
+def examples() -> Iterator[str]:
+    """Code in the documents stands in sources that are compiled"""
+    sources = [bare(tree.text(path)) for path in tree.with_suffix(*tree.CODE) if tree.below(path, house.RUNNABLE)]
+    for path in tree.with_suffix(".md"):
+        for number, code in code_paragraphs(tree.lines(path)):
+            if not any(bare(code) in source for source in sources):
+                yield f"{path}:{number}: stands in no source; {house.CHAPTERS} compiles what is in the manual"
+
+
+def code_paragraphs(lines: list[str]) -> Iterator[tuple[int, str]]:
+    """Number of the first line and text of each run of lines without an empty one, in blocks of C++."""
+    inside, start, paragraph = False, 0, []
+    for number, line in enumerate(lines, 1):
+        text = line.strip()
+        if paragraph and (not text or text == "```"):
+            yield start, "\n".join(paragraph)
+            paragraph = []
+        if text in ("```cpp", "```"):
+            inside = text == "```cpp"
+        elif inside and text:
+            start = start if paragraph else number
+            paragraph.append(line)
+
+
+def bare(code: str) -> str:
+    """The code without comments and white space: sources may break their lines elsewhere."""
+    return re.sub(r"//[^\n]*|\s", "", code)
