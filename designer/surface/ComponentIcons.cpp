@@ -54,6 +54,11 @@ void TComponentIcons::Show(const TDesignRoot& root) {
     std::erase_if(FIcons, [&](const auto& entry) { return !shown.contains(entry.first); });
 }
 
+TOverlay* TComponentIcons::Find(const TComponent& component) const {
+    const auto found = FIcons.find(&component);
+    return found == FIcons.end() ? nullptr : found->second.get();
+}
+
 void TComponentIcons::Clear() {
     FIcons.clear();
 }

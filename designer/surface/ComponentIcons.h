@@ -20,6 +20,8 @@ public:
     /// Shows one for each such component at its place.
     void Show(const TDesignRoot& root);
     void Clear();
+    /// The window of the component's icon; null when none is shown.
+    [[nodiscard]] TOverlay* Find(const TComponent& component) const;
     /// Where the component's icon stands, in client pixels of the form.
     [[nodiscard]] static TRect PlaceOf(const TComponent& component);
     /// True for components that are shown by an icon.

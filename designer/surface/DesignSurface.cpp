@@ -28,8 +28,8 @@ TDesignSurface::TDesignSurface(TComponent* AOwner, TDesignDocument& document)
       FDocument(document),
       FHandles(GetQV7SkinColorLinkText(), GetQV7SkinColorCaption()),
       FMarks(GetQV7SkinColorLinkVisited(), GetQV7SkinColorCaption()),
-      FGuides(GetQV7SkinColorLinkText(), GetQV7SkinColorLinkText()),
-      FBand(GetQV7SkinColorLinkText(), GetQV7SkinColorLinkText()) {
+      FBand(GetQV7SkinColorLinkText(), GetQV7SkinColorLinkText()),
+      FPicture(GetQV7SkinColorLinkText()) {
     // A drag holds the mouse itself; the end of a press must not take it away before the drop.
     ControlStyle = ControlStyle + TControlStyle{csOpaque} - TControlStyle{csCaptureMouse};
     SetColor(GetQV7SkinColorBackground());
@@ -55,8 +55,8 @@ void TDesignSurface::AdoptRoot() {
     FDrag = TDrag::None;
     FHandles.Clear();
     FMarks.Clear();
-    FGuides.Clear();
     FBand.Clear();
+    FPicture.End();
     FIcons.Clear();
     TDesignRoot& root = Root();
     root.SetDesignHook(this);
@@ -111,6 +111,19 @@ TRect TDesignSurface::PlaceInForm(const TComponent& component) const {
         place.Offset(origin.X, origin.Y);
     }
     return place;
+}
+
+/// Where its parents let a control be seen.
+TRect TDesignSurface::AreaShowing(const TControl& control) const {
+    TRect area = Root().GetClientRect();
+    for (const TWinControl* parent = control.GetParent(); parent && parent != &Root();
+         parent = parent->GetParent()) {
+        const TPoint origin = ToForm(parent->ClientToScreen({0, 0}));
+        TRect client = parent->GetClientRect();
+        client.Offset(origin.X, origin.Y);
+        area = area.Intersect(client);
+    }
+    return area;
 }
 
 std::optional<int> TDesignSurface::HandleUnder(TPoint point) const {

@@ -6,6 +6,7 @@
 
 #include "designer/model/DesignDocument.h"
 #include "designer/surface/ComponentIcons.h"
+#include "designer/surface/DragPicture.h"
 #include "designer/surface/Guides.h"
 #include "designer/surface/Overlay.h"
 #include "platform/vcl/controls/ParentForm.h"
@@ -64,6 +65,7 @@ private:
     [[nodiscard]] TComponent* ItemAt(TPoint point) const;
     [[nodiscard]] TControl& ControlAt(TPoint point) const;
     [[nodiscard]] TRect PlaceInForm(const TComponent& component) const;
+    [[nodiscard]] TRect AreaShowing(const TControl& control) const;
     [[nodiscard]] std::optional<int> HandleUnder(TPoint point) const;
     void AdoptRoot();
     void FitToRoot();
@@ -83,11 +85,12 @@ private:
     void ShowBand(TPoint point);
     void ChooseInBand(bool adding);
     void PlaceTool(TPoint point);
-    void EndDrag();
     void CollectMoved();
     void CollectOthers();
     [[nodiscard]] std::vector<TRect> PlacesAround() const;
-    void ShowMoved(const TRect& leader, const std::vector<TRect>& places);
+    [[nodiscard]] TRect GoalOf(const TRect& place) const;
+    void BeginPicture();
+    void EndPicture(const std::vector<TRect>& places);
     [[nodiscard]] TRect Band(TPoint point) const;
     void Nudge(int dx, int dy, bool sizing);
     void DeleteChosen();
@@ -96,8 +99,8 @@ private:
     const TMetaClass* FTool = nullptr;
     TOverlays FHandles;
     TOverlays FMarks;
-    TOverlays FGuides;
     TOverlays FBand;
+    TDragPicture FPicture;
     TComponentIcons FIcons;
 
     TDrag FDrag = TDrag::None;
@@ -105,6 +108,8 @@ private:
     TMovingEdges FEdges;
     TRect FLeader;                                      ///< The leader's place when the drag began.
     std::vector<std::pair<TComponent*, TRect>> FMoved;  ///< What moves, and where it stood, in its parent.
+    std::vector<TRect> FAround;                         ///< What `PlacesAround` said then.
+    TRect FGoal;                                        ///< Where the leader will come to stand.
     std::vector<TRect> FOthers;                         ///< What edges may come to lie on.
 };
 

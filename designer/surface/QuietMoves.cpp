@@ -1,26 +1,10 @@
 #include "designer/surface/QuietMoves.h"
 
+#include "designer/surface/UnclippedDC.h"
 #include "platform/vcl/graphics/Regions.h"
 
 namespace designer {
 namespace {
-
-/// A device context of the client area that reaches what the children cover, too.
-class TUnclippedDC {
-public:
-    explicit TUnclippedDC(HWND window)
-        : FWindow(window), FDC(::GetDCEx(window, nullptr, DCX_CACHE | DCX_CLIPSIBLINGS)) {}
-    ~TUnclippedDC() {
-        if (FDC) ::ReleaseDC(FWindow, FDC);
-    }
-    TUnclippedDC(const TUnclippedDC&) = delete;
-    TUnclippedDC& operator=(const TUnclippedDC&) = delete;
-    [[nodiscard]] HDC Get() const { return FDC; }
-
-private:
-    HWND FWindow;
-    HDC FDC;
-};
 
 /// True when nothing of the form shows in the window's rectangle.
 bool FillsItsPlace(HWND window) {

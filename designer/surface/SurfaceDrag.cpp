@@ -51,6 +51,13 @@ private:
     std::set<TWinControl*> FParents;
 };
 
+std::vector<TRect> LinesOf(const std::vector<TGuide>& guides) {
+    std::vector<TRect> lines;
+    for (const TGuide& guide : guides)
+        lines.push_back(guide.Line);
+    return lines;
+}
+
 TRect Shifted(TRect r, int dx, int dy) {
     r.Offset(dx, dy);
     return r;
@@ -120,6 +127,13 @@ void TDesignSurface::BeginDrag(TPoint point) {
     CollectOthers();
     if (FMoved.empty()) return;
     FLeader = PlaceInForm(*FMoved.front().first);
+    FGoal = FLeader;
+    try {
+        BeginPicture();
+    } catch (...) {
+        CancelDrag();
+        throw;
+    }
     FDrag = FEdges.IsNone() ? TDrag::Moving : TDrag::Sizing;
     Drag(point);
 }
@@ -162,49 +176,59 @@ std::vector<TRect> TDesignSurface::PlacesAround() const {
     return places;
 }
 
-/// Gives what moves its new places and shows the guides of the leader's, all at once.
-void TDesignSurface::ShowMoved(const TRect& leader, const std::vector<TRect>& places) {
+void TDesignSurface::BeginPicture() {
+    FHandles.Hide();
+    FMarks.Hide();
+    FAround = PlacesAround();
+    std::vector<TDragPicture::TPiece> pieces;
+    for (const auto& [component, place] : FMoved) {
+        auto* control = dynamic_cast<TControl*>(component);
+        if (!control) control = FIcons.Find(*component);
+        if (control) pieces.push_back({control, PlaceInForm(*component), AreaShowing(*control)});
+    }
+    FPicture.Begin(Root(), pieces);
+}
+
+/// Gives what was dragged its places, and lets the form show itself again, all at once.
+void TDesignSurface::EndPicture(const std::vector<TRect>& places) {
     TQuietMoves quiet(Root());
-    const std::vector<TRect> before = PlacesAround();
+    quiet.Touch(FPicture.Touched());
+    FPicture.End();
     {
         const TLayoutPause pause(ParentsOf(FMoved));
         for (std::size_t i = 0; i < places.size(); ++i)
             SetPlaceOf(*FMoved[i].first, places[i]);
     }
-    const std::vector<TRect> after = PlacesAround();
-    for (std::size_t i = 0; i < before.size(); ++i) {
-        if (before[i] == after[i]) continue;
-        quiet.Touch(before[i]);
-        quiet.Touch(after[i]);
+    const std::vector<TRect> around = PlacesAround();
+    for (std::size_t i = 0; i < around.size(); ++i) {
+        if (around[i] == FAround[i]) continue;
+        quiet.Touch(around[i]);
+        quiet.Touch(FAround[i]);
     }
-    quiet.Touch(FGuides.Places());
-    std::vector<TRect> lines;
-    for (const TGuide& guide : GuidesOf(leader, FOthers))
-        lines.push_back(guide.Line);
-    FGuides.Show(Root().WindowHandle(), std::move(lines));
-    quiet.Touch(FGuides.Places());
     FIcons.Show(Root());
     quiet.Show();
 }
 
-void TDesignSurface::MoveTo(TPoint point) {
-    const TRect wanted = Shifted(FLeader, point.X - FStart.X, point.Y - FStart.Y);
-    const TRect snapped = Snapped(wanted, {}, FOthers, Snapping);
-    std::vector<TRect> places;
-    for (const auto& [component, place] : FMoved)
-        places.push_back(Shifted(place, snapped.Left - FLeader.Left, snapped.Top - FLeader.Top));
-    FHandles.Hide();
-    FMarks.Hide();
-    ShowMoved(snapped, places);
-    OnDragged(designer::PlaceOf(*FMoved.front().first));
+/// The place of something dragged, in its parent, when the leader stands at its goal.
+TRect TDesignSurface::GoalOf(const TRect& place) const {
+    return Shifted(place, FGoal.Left - FLeader.Left, FGoal.Top - FLeader.Top);
 }
 
+void TDesignSurface::MoveTo(TPoint point) {
+    const TPoint distance{point.X - FStart.X, point.Y - FStart.Y};
+    FGoal = Snapped(Shifted(FLeader, distance.X, distance.Y), {}, FOthers, Snapping);
+    FPicture.Show({FGoal.Left - FLeader.Left, FGoal.Top - FLeader.Top}, LinesOf(GuidesOf(FGoal, FOthers)));
+    OnDragged(GoalOf(FMoved.front().second));
+}
+
+/// The control is sized at once, so that its picture shows what the size makes of it.
 void TDesignSurface::SizeTo(TPoint point) {
     const TRect wanted = WithEdgesMoved(FLeader, FEdges, point.X - FStart.X, point.Y - FStart.Y);
-    const TRect snapped = Snapped(wanted, FEdges, FOthers, Snapping);
     const auto& [component, place] = FMoved.front();
-    ShowMoved(snapped, {Shifted(snapped, place.Left - FLeader.Left, place.Top - FLeader.Top)});
-    UpdateMarks();
+    const TRect snapped = Snapped(wanted, FEdges, FOthers, Snapping);
+    SetPlaceOf(*component, Shifted(snapped, place.Left - FLeader.Left, place.Top - FLeader.Top));
+    FPicture.TakeAgain(PlaceInForm(*component));
+    FPicture.Show({}, LinesOf(GuidesOf(snapped, FOthers)));
     OnDragged(designer::PlaceOf(*component));
 }
 
@@ -222,11 +246,18 @@ void TDesignSurface::Drop(TPoint point, TShiftState shift) {
     // The end of the capture must not take it for a break.
     FDrag = TDrag::None;
     SetMouseCapture(false);
-    EndDrag();
+    FBand.Hide();
     switch (drag) {
         case TDrag::Moving:
+            FDocument.Edit(L"Verschieben", [this] {
+                std::vector<TRect> places;
+                for (const auto& [component, place] : FMoved)
+                    places.push_back(GoalOf(place));
+                EndPicture(places);
+            });
+            break;
         case TDrag::Sizing:
-            FDocument.Edit(drag == TDrag::Moving ? L"Verschieben" : L"Größe ändern", [] {});
+            FDocument.Edit(L"Größe ändern", [this] { EndPicture({}); });
             break;
         case TDrag::Band: {
             const TRect band = Band(point);
@@ -284,21 +315,17 @@ void TDesignSurface::PlaceTool(TPoint point) {
 
 bool TDesignSurface::CancelDrag() {
     if (FDrag == TDrag::None) return false;
-    const TDrag drag = FDrag;
     FDrag = TDrag::None;
     if (GetMouseCapture()) SetMouseCapture(false);
-    if (drag == TDrag::Moving || drag == TDrag::Sizing) {
+    if (FPicture.IsShown()) {
+        std::vector<TRect> places;
         for (const auto& [component, place] : FMoved)
-            SetPlaceOf(*component, place);
+            places.push_back(place);
+        EndPicture(places);
     }
-    EndDrag();
+    FBand.Hide();
     UpdateMarks();
     return true;
-}
-
-void TDesignSurface::EndDrag() {
-    FGuides.Hide();
-    FBand.Hide();
 }
 
 }  // namespace designer

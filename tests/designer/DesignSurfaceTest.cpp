@@ -1,83 +1,15 @@
 #include "designer/surface/DesignSurface.h"
 
 #include "designer/model/Placing.h"
-#include "designer/palette/PaletteIcons.h"
-#include "package/UnitQV7SkinRegister.h"
-#include "platform/vcl/forms/Form.h"
-#include "platform/vcl/stdctrls/Button.h"
-#include "platform/vcl/stdctrls/Edit.h"
-#include "platform/vcl/stdctrls/Label.h"
-#include "platform/vcl/stdctrls/Panel.h"
 #include "platform/vcl/stdctrls/Timer.h"
-#include "platform/vcl/streaming/ClassRegistry.h"
-#include "platform/vcl/streaming/FormText.h"
-#include "tests/support/FormTest.h"
-#include "tests/support/PixelProbe.h"
+#include "tests/designer/SurfaceFixture.h"
 
 namespace designer {
 namespace {
 
 using test::MouseButton;
 
-/// A form without a frame of 300 x 200 pixels on a surface, with controls on it.
-class DesignSurfaceTest : public test::FormTest {
-protected:
-    void SetUp() override {
-        FormTest::SetUp();
-        RegisterClasses({&TButton::StaticClass(), &TEdit::StaticClass(), &TLabel::StaticClass(),
-                         &TPanel::StaticClass(), &TTimer::StaticClass()});
-        Document = std::make_unique<TDesignDocument>();
-        Document->Begin(
-            ParseFormText(L"object Form1: TForm1 BorderStyle = bsNone ClientWidth = 300 ClientHeight = 200\n"
-                          L"object Label1: TLabel Left = 200 Top = 8 Width = 60 Height = 13 AutoSize = False "
-                          L"Caption = 'x' end\n"
-                          L"object Button1: TButton Left = 16 Top = 16 Width = 80 Height = 24 end\n"
-                          L"object Panel1: TPanel Left = 104 Top = 64 Width = 160 Height = 100\n"
-                          L"  object Edit1: TEdit Left = 8 Top = 8 Width = 64 Height = 24 end\n"
-                          L"end\n"
-                          L"end"));
-        Surface = new TDesignSurface(nullptr, *Document);
-        Surface->SetParent(&Form());
-        Surface->Snapping.UseGuides = false;
-        Surface->OnMenu = [this](TPoint) { ++Menus; };
-        Surface->OnToolUsed = [this] { ++ToolsUsed; };
-        Surface->OnOpenItem = [this](TComponent* item) { Opened = item->GetName(); };
-        Document->OnChange = [this] { Surface->UpdateMarks(); };
-        Document->Selection().OnChange = [this] { Surface->UpdateMarks(); };
-        Surface->HandleNeeded();
-        Form().Update();
-    }
-    void TearDown() override {
-        delete Surface;
-        Document.reset();
-        ForgetPaletteIcons();
-        FormTest::TearDown();
-    }
-
-    [[nodiscard]] HWND Window() const { return Document->Root().WindowHandle(); }
-    template <class T>
-    T& Find(const wchar_t* name) {
-        return dynamic_cast<T&>(*Document->Root().FindComponent(name));
-    }
-    [[nodiscard]] String Chosen() const {
-        String names;
-        for (const String& name : Document->Selection().Names())
-            names += (names.empty() ? L"" : L",") + name;
-        return names;
-    }
-    [[nodiscard]] POINT Screen(int x, int y) const {
-        POINT point{x, y};
-        ::ClientToScreen(Window(), &point);
-        return point;
-    }
-    void Drag(TPoint from, TPoint to) { Input.Drag(Screen(from.X, from.Y), Screen(to.X, to.Y)); }
-
-    std::unique_ptr<TDesignDocument> Document;
-    TDesignSurface* Surface = nullptr;
-    int Menus = 0;
-    int ToolsUsed = 0;
-    String Opened;
-};
+class DesignSurfaceTest : public SurfaceTest {};
 
 TEST_F(DesignSurfaceTest, ShowsTheFormWithItsControls) {
     EXPECT_TRUE(::IsWindowVisible(Window()));
@@ -129,51 +61,6 @@ TEST_F(DesignSurfaceTest, ADragMovesWhatIsChosenToTheGridAsOneEdit) {
     EXPECT_EQ(Find<TButton>(L"Button1").GetBoundsRect(), TRect::OfSize(16, 16, 80, 24));
 }
 
-TEST_F(DesignSurfaceTest, ADragPaintsWhatACompletePaintingWould) {
-    Surface->Snapping.UseGuides = true;
-    Document->Begin(
-        ParseFormText(L"object Form1: TForm1 BorderStyle = bsNone ClientWidth = 300 ClientHeight = 200\n"
-                      L"object Label1: TLabel Left = 40 Top = 90 Width = 60 Height = 40 AutoSize = False "
-                      L"Caption = 'Text' end\n"
-                      L"object Side: TPanel Align = alLeft Width = 32 end\n"
-                      L"object Rest: TPanel Align = alBottom Height = 60\n"
-                      L"  object Edit1: TEdit Left = 8 Top = 8 Width = 64 Height = 24 end\n"
-                      L"end\n"
-                      L"object Button1: TButton Left = 48 Top = 16 Width = 80 Height = 24 end\n"
-                      L"object Button2: TButton Left = 72 Top = 32 Width = 80 Height = 24 end\n"
-                      L"object Timer1: TTimer Left = 200 Top = 8 end\n"
-                      L"end"));
-    const auto expectSame = [this](const char* what) {
-        // What waits to be painted would hide what is missing.
-        const test::Pixels dragged = test::ReadWindow(Window());
-        ::RedrawWindow(Window(), nullptr, nullptr,
-                       RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
-        EXPECT_TRUE(test::SamePixels(dragged, test::ReadWindow(Window()))) << what;
-    };
-    const auto dragAround = [&](TPoint from, const char* what) {
-        Input.MoveTo(Window(), from.X, from.Y);
-        Input.Press();
-        for (const TPoint step :
-             {TPoint{9, 4}, TPoint{24, 40}, TPoint{-14, 71}, TPoint{60, 100}, TPoint{3, 3}}) {
-            Input.MoveTo(Window(), from.X + step.X, from.Y + step.Y);
-            expectSame(what);
-        }
-        Input.Release();
-        Document->Undo();
-    };
-    dragAround({60, 20}, "a control with a window");
-    dragAround({50, 100}, "one without, under others");
-    dragAround({210, 20}, "an icon");
-    dragAround({48, 152}, "one in another");
-    Document->Selection().Set({&Find<TControl>(L"Label1"), &Find<TControl>(L"Button2"),
-                               &Find<TControl>(L"Edit1"), Document->Root().FindComponent(L"Timer1")});
-    dragAround({50, 100}, "several");
-    Document->Selection().SetOnly(&Find<TPanel>(L"Side"));
-    dragAround({31, 70}, "the edge of an aligned one");
-    Document->Selection().SetOnly(&Find<TPanel>(L"Rest"));
-    dragAround({165, 140}, "another one");
-}
-
 TEST_F(DesignSurfaceTest, AMoveOfAFewPixelsIsNoDrag) {
     Drag({30, 25}, {32, 27});
     EXPECT_EQ(Find<TButton>(L"Button1").GetLeft(), 16);
@@ -203,12 +90,20 @@ TEST_F(DesignSurfaceTest, EscapeBringsADragBack) {
     Input.MoveTo(Window(), 30, 25);
     Input.Press();
     Input.MoveTo(Window(), 90, 90);
-    EXPECT_NE(Find<TButton>(L"Button1").GetLeft(), 16);
     Input.KeyPress(VK_ESCAPE);
-    EXPECT_EQ(Find<TButton>(L"Button1").GetBoundsRect(), TRect::OfSize(16, 16, 80, 24));
     Input.Release();
+    EXPECT_EQ(Find<TButton>(L"Button1").GetBoundsRect(), TRect::OfSize(16, 16, 80, 24));
     EXPECT_FALSE(Document->IsModified());
     EXPECT_EQ(Chosen(), L"Button1");
+
+    Input.MoveTo(Window(), 95, 39);
+    Input.Press();
+    Input.MoveTo(Window(), 120, 60);
+    EXPECT_NE(Find<TButton>(L"Button1").GetWidth(), 80) << "sizing shows the control itself";
+    Input.KeyPress(VK_ESCAPE);
+    Input.Release();
+    EXPECT_EQ(Find<TButton>(L"Button1").GetBoundsRect(), TRect::OfSize(16, 16, 80, 24));
+    EXPECT_FALSE(Document->IsModified());
 }
 
 TEST_F(DesignSurfaceTest, ALostCaptureBringsADragBackToo) {
@@ -216,8 +111,8 @@ TEST_F(DesignSurfaceTest, ALostCaptureBringsADragBackToo) {
     Input.Press();
     Input.MoveTo(Window(), 90, 90);
     ::ReleaseCapture();
-    EXPECT_EQ(Find<TButton>(L"Button1").GetLeft(), 16);
     Input.Release();
+    EXPECT_EQ(Find<TButton>(L"Button1").GetLeft(), 16);
     EXPECT_FALSE(Document->IsModified());
 }
 
@@ -294,8 +189,8 @@ TEST_F(DesignSurfaceTest, GuidesHoldAnEdgeOnThatOfASibling) {
     Input.MoveTo(Window(), 30, 25);
     Input.Press();
     Input.MoveTo(Window(), 30 + 88, 25 + 30);
-    EXPECT_EQ(Find<TButton>(L"Button1").GetLeft(), 107) << "nearer than the grid's 104";
     Input.Release();
+    EXPECT_EQ(Find<TButton>(L"Button1").GetLeft(), 107) << "nearer than the grid's 104";
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "platform/vcl/controls/ControlCanvas.h"
 #include "platform/vcl/controls/PaintBuffer.h"
+#include "platform/vcl/controls/StateScope.h"
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Brush.h"
@@ -145,7 +146,7 @@ void TWinControl::PaintControls(HDC dc, TControl* first) {
 void TWinControl::PaintTo(HDC dc, int x, int y) {
     HandleNeeded();
     const TLifeGuard guard(*this);
-    SetControlState(csPaintCopy, true);
+    const TStateScope copying(*this, csPaintCopy);
     const TShiftedDC whole(dc, x, y, GetWidth(), GetHeight());
     const TPoint inside = PaintFrameTo(dc);
     {
@@ -158,7 +159,6 @@ void TWinControl::PaintTo(HDC dc, int x, int y) {
             if (child->IsShown()) child->PaintTo(dc, child->GetLeft(), child->GetTop());
         }
     }
-    if (guard.IsAlive()) SetControlState(csPaintCopy, false);
 }
 
 void TWinControl::WmEraseBkgnd(TMessage& message) {

@@ -1,5 +1,6 @@
 #include "platform/vcl/controls/ControlCanvas.h"
 #include "platform/vcl/controls/ParentForm.h"
+#include "platform/vcl/controls/StateScope.h"
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/controls/WindowTable.h"
 #include "platform/vcl/core/Exceptions.h"
@@ -20,24 +21,6 @@ HCURSOR ArrowCursor() {
     static const HCURSOR arrow = ::LoadCursorW(nullptr, IDC_ARROW);
     return arrow;
 }
-
-/// Sets a state for the length of a scope, as long as the control lives.
-class TStateScope {
-public:
-    TStateScope(TControl& control, TControlStateFlag flag) : FControl(control), FGuard(control), FFlag(flag) {
-        control.SetControlState(flag, true);
-    }
-    ~TStateScope() {
-        if (FGuard.IsAlive()) FControl.SetControlState(FFlag, false);
-    }
-    TStateScope(const TStateScope&) = delete;
-    TStateScope& operator=(const TStateScope&) = delete;
-
-private:
-    TControl& FControl;
-    TLifeGuard FGuard;
-    TControlStateFlag FFlag;
-};
 
 [[noreturn]] void RaiseNoWindow(const String& className) {
     throw EOSError(Format(L"A window of class %s can't be made (error %d)", className,
