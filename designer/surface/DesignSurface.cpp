@@ -277,6 +277,11 @@ void TDesignSurface::MouseUp(TMouseButton button, TShiftState shift, int x, int 
 
 void TDesignSurface::KeyDown(WORD& key, TShiftState shift) {
     TCustomControl::KeyDown(key, shift);
+    if (FDrag != TDrag::None) {
+        // Nothing else may change what is dragged.
+        if (key == VK_ESCAPE) CancelDrag();
+        return;
+    }
     const bool sizing = shift.Contains(ssShift);
     // With Ctrl to the pixel, else to the next point of the grid.
     const int step = shift.Contains(ssCtrl) ? 1 : Snapping.Grid;
@@ -292,7 +297,6 @@ void TDesignSurface::KeyDown(WORD& key, TShiftState shift) {
         case VK_DELETE:
             return DeleteChosen();
         case VK_ESCAPE:
-            if (CancelDrag()) return;
             return FDocument.Selection().Clear();
         default:
             return;

@@ -183,6 +183,20 @@ TEST_F(SurfaceDragTest, AGivenUpDragLeavesTheFormAsItWas) {
     EXPECT_FALSE(Document->IsModified());
 }
 
+TEST_F(SurfaceDragTest, KeysDoNothingElseDuringADrag) {
+    PressAt({110, 50});
+    MoveTo({200, 90});
+    Input.KeyPress(VK_DELETE);
+    Input.KeyPress(VK_RIGHT);
+    ASSERT_TRUE(Document->Root().FindComponent(L"Button2"));
+    MoveTo({110 + 16, 50 + 8});
+    Input.Release();
+    EXPECT_EQ(Find<TButton>(L"Button2").GetBoundsRect().TopLeft(), TPoint(88, 40));
+    EXPECT_EQ(Document->History().Count(), 1u);
+    Input.KeyPress(VK_DELETE);
+    EXPECT_FALSE(Document->Root().FindComponent(L"Button2"));
+}
+
 /// Fails when a picture of it is taken.
 class TUnpaintable : public TPanel {
 public:
