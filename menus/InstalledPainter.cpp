@@ -21,7 +21,10 @@ TQV7SkinMenuItemPainter* QV7SkinMenuItemPainter() {
 }
 
 void SetQV7SkinMenuItemPainter(TQV7SkinMenuItemPainter* Painter) {
-    if (Painter != Installed().get()) Installed().reset(Painter);
+    if (Painter == Installed().get()) return;
+    // The former one is gone before its successor can be asked for.
+    Installed().reset();
+    Installed().reset(Painter);
 }
 
 }  // namespace qv7skin

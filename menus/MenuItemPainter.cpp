@@ -24,10 +24,12 @@ constexpr TColor DisabledTextColor = 0x00DEC5D8;
 /// The right edge of the gutter on the menu's canvas, and what captions stand further right for it.
 constexpr int GutterEdge = 26;
 
-/// Where the gutter of an item ends. Items of further columns and of a bar begin behind the edge: they have a
-/// gutter of their own, where a gutter up to the edge would lie on their neighbours.
-int GutterEdgeOf(const TRect& item) {
-    return item.Left < GutterEdge ? GutterEdge : item.Left + GutterEdge;
+/// Where a check mark stands in the middle. Items of further columns and of a bar begin behind the edge:
+/// there the mark stands in the space before the caption, since in the gutter it would lie on their
+/// neighbours.
+TRect MarkRoom(const TRect& item) {
+    const int edge = item.Left < GutterEdge ? GutterEdge : item.Left + GutterEdge;
+    return {item.Left, item.Top, edge, item.Bottom};
 }
 
 constexpr int GradientSteps = 256;
@@ -141,9 +143,11 @@ void TQV7SkinMenuItemPainter::DrawItem(TMenuItem& Sender, TCanvas& ACanvas, cons
 }
 
 void TQV7SkinMenuItemPainter::DrawGutter(TCanvas& ACanvas, const TRect& R) const {
-    const int edge = GutterEdgeOf(R);
-    Fill(ACanvas, {R.Left, R.Top, edge, R.Bottom}, GutterColor);
-    Line(ACanvas, LineColor, {edge, R.Top}, {edge, R.Bottom});
+    // Neither what lies beside the item is painted over, nor has an item behind the edge a gutter.
+    const TRect gutter{R.Left, R.Top, std::min(GutterEdge, R.Right), R.Bottom};
+    if (!gutter.IsEmpty()) Fill(ACanvas, gutter, GutterColor);
+    if (R.Left <= GutterEdge && GutterEdge < R.Right)
+        Line(ACanvas, LineColor, {GutterEdge, R.Top}, {GutterEdge, R.Bottom});
 }
 
 void TQV7SkinMenuItemPainter::DrawSeparator(TMenuItem& Item, TCanvas& ACanvas, const TRect& ARect, bool) {
@@ -221,8 +225,8 @@ void TQV7SkinMenuItemPainter::DrawTexts(TMenuItem& Item, TCanvas& ACanvas, const
 
 void TQV7SkinMenuItemPainter::DrawCheckMark(TMenuItem& Item, TCanvas& ACanvas, const TRect& ARect, bool) {
     if (!Item.GetChecked()) return;
-    TRect glyph = TRectHelper::CenterRectInRect({ARect.Left, ARect.Top, GutterEdgeOf(ARect), ARect.Bottom},
-                                                {0, 0, 12, 12}, {crtHorizontal, crtVertical});
+    TRect glyph =
+        TRectHelper::CenterRectInRect(MarkRoom(ARect), {0, 0, 12, 12}, {crtHorizontal, crtVertical});
     TPen& pen = ACanvas.GetPen();
     pen.SetStyle(psSolid);
     pen.SetColor(clBlack);

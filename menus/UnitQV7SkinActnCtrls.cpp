@@ -1,8 +1,24 @@
 #include "menus/UnitQV7SkinActnCtrls.h"
 
+#include <algorithm>
+
 #include "platform/vcl/core/DefineClass.h"
 
 namespace qv7skin {
+namespace {
+
+/// A guard of an object that may be missing.
+template <class Object>
+std::optional<TLifeGuard> GuardOf(const Object* object) {
+    if (!object) return std::nullopt;
+    return TLifeGuard(*object);
+}
+
+bool IsAlive(const std::optional<TLifeGuard>& guard) {
+    return guard && guard->IsAlive();
+}
+
+}  // namespace
 
 // --- the action that stands for a menu item
 
@@ -42,8 +58,9 @@ TMainMenuReplacement::TMainMenuReplacement(TMainMenu* AMainMenu, TActionManager*
       FActionMainMenuBar(AActionMainMenuBar),
       OnIsItemEnabled(AOnIsItemEnabled),
       FGuid(AGuid),
-      FManagerGuard(*AActionManager),
-      FBarGuard(*AActionMainMenuBar) {
+      FManagerGuard(GuardOf(AActionManager)),
+      FBarGuard(GuardOf(AActionMainMenuBar)) {
+    if (!FActionMainMenuBar) return;
     FActionMainMenuBar->OnPopup = {this, &TMainMenuReplacement::DoActionMainMenuBarPopup};
     FActionMainMenuBar->OnExitMenuLoop = {this, &TMainMenuReplacement::DoActionMainMenuBarExitMenuLoop};
     FActionMainMenuBar->OnGetControlClass = {this, &TMainMenuReplacement::DoActionMainMenuBarGetControlClass};
@@ -52,7 +69,7 @@ TMainMenuReplacement::TMainMenuReplacement(TMainMenu* AMainMenu, TActionManager*
 
 TMainMenuReplacement::~TMainMenuReplacement() {
     FreeActions();
-    if (!FBarGuard.IsAlive()) return;
+    if (!IsAlive(FBarGuard)) return;
     const auto release = [this](auto& event) {
         if (event.ObjectPart() == dynamic_cast<void*>(this)) event.Clear();
     };
@@ -67,7 +84,7 @@ void TMainMenuReplacement::FreeActions() {
 }
 
 bool TMainMenuReplacement::CanWork() const {
-    return !FUninitialized && FManagerGuard.IsAlive() && FBarGuard.IsAlive();
+    return !FUninitialized && IsAlive(FManagerGuard) && IsAlive(FBarGuard);
 }
 
 TActionBarItem& TMainMenuReplacement::BarEntry() const {
@@ -87,8 +104,13 @@ bool TMainMenuReplacement::NeedsRebuild(const TMainMenu& Menu) const {
 void TMainMenuReplacement::UpdateActionMainMenuBar(TMainMenu* AMainMenu) {
     if (!CanWork() || !AMainMenu || FActionManager->IsInState(csLoading) || !NeedsRebuild(*AMainMenu)) return;
     TActionBarItem& entry = BarEntry();
+    const TLifeGuard guard(*this);
+    const TLifeGuard entryGuard(entry);
+    const TLifeGuard menuGuard(*AMainMenu);
+    // What hears of the end of the loop may free anything.
     FActionMainMenuBar->CloseMenu();
-    if (!CanWork()) return;
+    if (!guard.IsAlive() || !CanWork() || !entryGuard.IsAlive() || !menuGuard.IsAlive()) return;
+    FEmptied.clear();
     entry.GetItems().Clear();
     entry.SetActionBar(nullptr);
     LoadMenu(*FActionManager, entry.GetItems(), AMainMenu->GetItems(), true);
@@ -99,30 +121,55 @@ void TMainMenuReplacement::UpdateActionMainMenuBar(TMainMenu* AMainMenu) {
 }
 
 void TMainMenuReplacement::LoadMenu(TCustomActionList& ActionList, TActionClients& Clients,
-                                    TMenuItem& MenuItem, bool Root) {
+                                    TMenuItem& MenuItem, bool) {
     if (!CanWork()) return;
     MenuItem.RethinkHotkeys();
     MenuItem.RethinkLines();
     Clients.SetAutoHotKeys(false);
-    const bool isBar = Root || !MenuItem.GetParent();
+    const TLifeGuard clientsGuard(Clients.Client());
     Clients.BeginUpdate();
-    for (int i = 0; i < MenuItem.GetCount(); ++i) {
-        TMenuItem& child = *MenuItem.GetItem(i);
-        TActionClientItem& client = *Clients.Add();
-        client.SetCaption(child.GetCaption());
-        SetMenuItemOf(client, &child);
-        client.SetAction(child.GetAction());
-        client.SetVisible(child.GetVisible());
-        // A place holder: the submenu itself is read when it opens.
-        if (child.GetCount() > 0) client.GetItems().Add();
-        if (!isBar && !child.GetCaption().empty() && !child.GetAction()) AddAction(ActionList, client, child);
-        client.SetCaption(child.GetCaption());
-        client.SetImageIndex(child.GetImageIndex());
-        client.SetHelpContext(child.GetHelpContext());
-        client.SetShortCut(child.GetShortCut());
-        client.SetVisible(child.GetVisible());
+    try {
+        AddClients(ActionList, Clients, MenuItem);
+    } catch (...) {
+        if (clientsGuard.IsAlive()) Clients.EndUpdate();
+        throw;
     }
-    Clients.EndUpdate();
+    if (clientsGuard.IsAlive()) Clients.EndUpdate();
+}
+
+void TMainMenuReplacement::AddClients(TCustomActionList& ActionList, TActionClients& Clients,
+                                      TMenuItem& MenuItem) {
+    const TLifeGuard guard(*this);
+    const TLifeGuard listGuard(ActionList);
+    const TLifeGuard clientsGuard(Clients.Client());
+    const TLifeGuard itemGuard(MenuItem);
+    for (int i = 0; i < MenuItem.GetCount(); ++i) {
+        AddClient(ActionList, Clients, *MenuItem.GetItem(i));
+        // The host was asked about the item, and may have freed what is worked on.
+        if (!guard.IsAlive() || !CanWork()) return;
+        if (!listGuard.IsAlive() || !clientsGuard.IsAlive() || !itemGuard.IsAlive()) return;
+    }
+}
+
+void TMainMenuReplacement::AddClient(TCustomActionList& ActionList, TActionClients& Clients,
+                                     TMenuItem& Item) {
+    TActionClientItem& client = *Clients.Add();
+    client.SetCaption(Item.GetCaption());
+    SetMenuItemOf(client, &Item);
+    client.SetAction(Item.GetAction());
+    client.SetVisible(Item.GetVisible());
+    // A place holder: the submenu itself is read when it opens.
+    if (Item.GetCount() > 0) client.GetItems().Add();
+    const TLifeGuard clientGuard(client);
+    const TLifeGuard itemGuard(Item);
+    const bool isTopmost = !Item.GetParent() || !Item.GetParent()->GetParent();
+    if (!isTopmost && !Item.GetCaption().empty() && !Item.GetAction()) AddAction(ActionList, client, Item);
+    if (!clientGuard.IsAlive() || !itemGuard.IsAlive()) return;
+    client.SetCaption(Item.GetCaption());
+    client.SetImageIndex(Item.GetImageIndex());
+    client.SetHelpContext(Item.GetHelpContext());
+    client.SetShortCut(Item.GetShortCut());
+    client.SetVisible(Item.GetVisible());
 }
 
 void TMainMenuReplacement::AddAction(TCustomActionList& ActionList, TActionClientItem& Client,
@@ -139,7 +186,12 @@ void TMainMenuReplacement::AddAction(TCustomActionList& ActionList, TActionClien
     action.SetChecked(Item.GetChecked());
     action.SetCaption(Item.GetCaption());
     action.SetShortCut(Item.GetShortCut());
-    action.SetEnabled(IsItemEnabled(Item));
+    const TLifeGuard guard(action);
+    const TLifeGuard clientGuard(Client);
+    const TLifeGuard itemGuard(Item);
+    const bool isEnabled = IsItemEnabled(Item);
+    if (!guard.IsAlive() || !clientGuard.IsAlive() || !itemGuard.IsAlive()) return;
+    action.SetEnabled(isEnabled);
     action.SetAutoCheck(Item.GetAutoCheck());
     action.SetChecked(Item.GetChecked());
     action.SetGroupIndex(Item.GetGroupIndex());
@@ -154,15 +206,32 @@ void TMainMenuReplacement::BuildSubMenu(TCustomActionControl& Control) {
     if (MenuItemOf(client->GetItems().GetItem(0))) return;
     TMenuItem* item = MenuItemOf(client);
     if (!item) return;
-    const TLifeGuard guard(*client);
+    const TLifeGuard guard(*this);
+    const TLifeGuard clientGuard(*client);
     item->OnClick(item);
-    // The handler may have freed the item, or torn the bar down.
-    if (!CanWork() || !guard.IsAlive()) return;
+    // The handler may have freed the item or the replacement, or torn the bar down.
+    if (!guard.IsAlive() || !CanWork() || !clientGuard.IsAlive()) return;
     item = MenuItemOf(client);
     client->GetItems().Clear();
-    if (!item) return;
-    item->RethinkHotkeys();
-    LoadMenu(*FActionManager, client->GetItems(), *item, false);
+    if (item) LoadSubMenu(*client, *item);
+}
+
+void TMainMenuReplacement::LoadSubMenu(TActionClientItem& Client, TMenuItem& Item) {
+    const TLifeGuard guard(*this);
+    const TLifeGuard clientGuard(Client);
+    try {
+        Item.RethinkHotkeys();
+        LoadMenu(*FActionManager, Client.GetItems(), Item, false);
+    } catch (...) {
+        // Half a submenu must not be taken for the whole: it is read again when it opens next.
+        if (clientGuard.IsAlive()) {
+            Client.GetItems().Clear();
+            Client.GetItems().Add();
+        }
+        throw;
+    }
+    if (guard.IsAlive() && clientGuard.IsAlive() && !Client.HasItems() && !Client.GetParentItem())
+        FEmptied.push_back(Client.GetID());
 }
 
 bool TMainMenuReplacement::IsItemEnabled(TMenuItem& Item) {
@@ -181,10 +250,14 @@ void TMainMenuReplacement::DoActionMainMenuBarExitMenuLoop(TObject*, bool) {
     TActionClients& clients = BarEntry().GetItems();
     for (int i = 0; i < clients.GetCount(); ++i) {
         TActionClientItem& client = *clients.GetItem(i);
-        if (!client.HasItems()) continue;
+        const TMenuItem* item = MenuItemOf(&client);
+        // The submenu may have been empty this time, or the item may have got one since.
+        const bool wasEmpty = std::find(FEmptied.begin(), FEmptied.end(), client.GetID()) != FEmptied.end();
+        if (!client.HasItems() && !wasEmpty && !(item && item->GetCount() > 0)) continue;
         client.GetItems().Clear();
         client.GetItems().Add();
     }
+    FEmptied.clear();
     FreeActions();
 }
 

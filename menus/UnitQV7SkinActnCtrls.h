@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "menus/Namespace.h"
@@ -45,9 +46,11 @@ using TIsItemEnabledEvent = TEvent<void(TObject*, TMenuItem*, const GUID&, bool&
 /// Mirrors a main menu into the first entry of an action manager, which an action main menu bar shows in the
 /// skin. The main menu stays what counts: its items are read when their submenu opens, and what the user
 /// chooses clicks the item. Menu, manager and bar are not owned and may be freed before the replacement.
-class TMainMenuReplacement : public TObject {
+/// Handlers that it calls may free it.
+class TMainMenuReplacement : public TObject, private TGuarded {
 public:
-    /// Fills the bar. It takes the bar's `OnPopup`, `OnExitMenuLoop` and `OnGetControlClass` for itself.
+    /// Fills the bar. It takes the bar's `OnPopup`, `OnExitMenuLoop` and `OnGetControlClass` for itself. It
+    /// does nothing without a menu, a manager or a bar (null).
     TMainMenuReplacement(TMainMenu* AMainMenu, TActionManager* AActionManager,
                          TActionMainMenuBar* AActionMainMenuBar, const GUID& AGuid,
                          const TIsItemEnabledEvent& AOnIsItemEnabled = nullptr);
@@ -56,7 +59,8 @@ public:
     /// Fills the bar anew when the number of items in the menu's bar or one of their captions, case aside,
     /// has changed.
     void UpdateActionMainMenuBar(TMainMenu* AMainMenu);
-    /// Adds a client for each item of the submenu of `MenuItem`; `Root` when that is the bar.
+    /// Adds a client for each item of the submenu of `MenuItem`. `Root` says that they are those of the bar;
+    /// whether an item gets an action depends on its own place only.
     void LoadMenu(TCustomActionList& ActionList, TActionClients& Clients, TMenuItem& MenuItem, bool Root);
     /// Fills the submenu of a control that is going to drop down, once in each use of the menu. The item's
     /// `OnClick` runs first.
@@ -78,7 +82,10 @@ private:
     [[nodiscard]] TActionBarItem& BarEntry() const;
     [[nodiscard]] bool NeedsRebuild(const TMainMenu& Menu) const;
     void FreeActions();
+    void AddClients(TCustomActionList& ActionList, TActionClients& Clients, TMenuItem& MenuItem);
+    void AddClient(TCustomActionList& ActionList, TActionClients& Clients, TMenuItem& Item);
     void AddAction(TCustomActionList& ActionList, TActionClientItem& Client, TMenuItem& Item);
+    void LoadSubMenu(TActionClientItem& Client, TMenuItem& Item);
     void DoActionMainMenuBarPopup(TObject* Sender, TCustomActionControl* Control);
     void DoActionMainMenuBarExitMenuLoop(TObject* Sender, bool Cancelled);
     void DoActionMainMenuBarGetControlClass(TCustomActionBar* Sender, TActionClient* Client,
@@ -96,8 +103,9 @@ public:
 private:
     GUID FGuid;
     bool FUninitialized = false;
-    TLifeGuard FManagerGuard;
-    TLifeGuard FBarGuard;
+    std::optional<TLifeGuard> FManagerGuard;
+    std::optional<TLifeGuard> FBarGuard;
+    std::vector<int> FEmptied;  ///< Numbers of clients in the bar whose submenu was empty when it opened.
 };
 
 }  // namespace qv7skin

@@ -13,14 +13,16 @@ TQV7SkinMenuItemPainter* ActivePainter() {
 }
 
 void DrawWithPainter(TObject* sender, TCanvas& canvas, const TRect& rect, bool selected) {
-    if (TQV7SkinMenuItemPainter* painter = ActivePainter())
-        // Menus of the system draw the arrow of a submenu themselves.
-        painter->DrawItem(dynamic_cast<TMenuItem&>(*sender), canvas, rect, selected, false);
+    TQV7SkinMenuItemPainter* painter = ActivePainter();
+    auto* item = dynamic_cast<TMenuItem*>(sender);
+    // Menus of the system draw the arrow of a submenu themselves.
+    if (painter && item) painter->DrawItem(*item, canvas, rect, selected, false);
 }
 
 void MeasureWithPainter(TObject* sender, TCanvas& canvas, int& width, int& height) {
-    if (TQV7SkinMenuItemPainter* painter = ActivePainter())
-        painter->MeasureItem(dynamic_cast<TMenuItem&>(*sender), canvas, width, height);
+    TQV7SkinMenuItemPainter* painter = ActivePainter();
+    auto* item = dynamic_cast<TMenuItem*>(sender);
+    if (painter && item) painter->MeasureItem(*item, canvas, width, height);
 }
 
 template <class Menu>
@@ -30,6 +32,20 @@ void HookItems(Menu& menu, TMenuItem& parent) {
         item.OnDrawItem = {&menu, &Menu::DoCustomDrawItem};
         item.OnMeasureItem = {&menu, &Menu::DoCustomMeasureItem};
         HookItems(menu, item);
+    }
+}
+
+/// Takes the menu's handlers from every item below: an item with a picture is asked to draw itself although
+/// the menu leaves drawing to the system, and would stay empty.
+void ReleaseItems(const TMenu& menu, const TMenuItem& parent) {
+    const auto release = [&menu](auto& event) {
+        if (event.ObjectPart() == dynamic_cast<const void*>(&menu)) event.Clear();
+    };
+    for (int i = 0; i < parent.GetCount(); ++i) {
+        TMenuItem& item = *parent.GetItem(i);
+        release(item.OnDrawItem);
+        release(item.OnMeasureItem);
+        ReleaseItems(menu, item);
     }
 }
 
@@ -78,9 +94,15 @@ void TQV7SkinPopupMenu::DoChange(TMenuItem* Source, bool Rebuild) {
 
 void TQV7SkinPopupMenu::Popup(int X, int Y) {
     const TLifeGuard guard(*this);
-    SetOwnerDraw(ActivePainter() != nullptr);
+    const bool isInSkin = ActivePainter() != nullptr;
+    // What changes from here on keeps the handlers of the host.
+    if (!isInSkin) FLaidOut = false;
+    SetOwnerDraw(isInSkin);
     if (!guard.IsAlive()) return;
-    if (GetOwnerDraw()) ApplyCustomLayout();
+    if (isInSkin)
+        ApplyCustomLayout();
+    else
+        ReleaseItems(*this, GetItems());
     TPopupMenu::Popup(X, Y);
     AppServices().ProcessMessages();
     if (guard.IsAlive()) DoCloseUp(this);

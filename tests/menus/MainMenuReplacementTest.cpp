@@ -75,6 +75,7 @@ TEST_F(MainMenuReplacementTest, ProxiesTakeOverWhatTheItemSays) {
     Save->SetImageIndex(4);
     Save->SetHelpContext(7);
     Save->SetTag(99);
+    Save->SetGroupIndex(5);
     Save->SetChecked(true);
     Save->SetAutoCheck(true);
     Open->SetEnabled(false);
@@ -91,6 +92,12 @@ TEST_F(MainMenuReplacementTest, ProxiesTakeOverWhatTheItemSays) {
     EXPECT_EQ(action->GetHelpContext(), 7);
     EXPECT_TRUE(action->GetChecked());
     EXPECT_TRUE(action->GetAutoCheck());
+    EXPECT_EQ(action->GetCaption(), L"&Save");
+    EXPECT_EQ(action->GetShortCut(), ShortCut('S', {ssCtrl}));
+    EXPECT_EQ(action->GetGroupIndex(), 5);
+    EXPECT_TRUE(action->GetVisible());
+    EXPECT_TRUE(action->GetEnabled());
+    EXPECT_FALSE(dynamic_cast<const TABMenuAction&>(*items.GetItem(0)->GetAction()).GetEnabled());
     EXPECT_EQ(items.GetItem(2)->GetShortCut(), ShortCut('S', {ssCtrl}));
     EXPECT_EQ(items.GetItem(2)->GetImageIndex(), 4);
     EXPECT_EQ(items.GetItem(2)->GetHelpContext(), 7);

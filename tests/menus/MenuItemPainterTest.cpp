@@ -183,6 +183,19 @@ TEST_F(MenuItemPainterTest, AHeadingStandsInItsSeparator) {
     EXPECT_TRUE(SamePixels(Draw(*line, {2, 10, 150, 30}), expected(6)));
 }
 
+TEST_F(MenuItemPainterTest, AHeadingStandsAsItIsWritten) {
+    TMenuItem* line = AddItem(L"-", L"One#13#10two");
+    const TSize text = TextSize(Painter->GetTitleFont(), L"One#13#10two");
+    EXPECT_EQ(Measure(*line), TSize(text.Width + 14, text.Height + 8));
+    const Pixels shown = Draw(*line, {0, 10, 150, 30});
+    EXPECT_TRUE(SamePixels(shown.Part({0, 10, 150, 28}), Expected([&](const Reference& on) {
+                                                             on.Fill({0, 10, 150, 30}, SeparatorGround);
+                                                             on.Text(Painter->GetTitleFont(), L"One#13#10two",
+                                                                     0, {10, 10, 146, 30},
+                                                                     DT_SINGLELINE | DT_VCENTER);
+                                                         }).Part({0, 10, 150, 28})));
+}
+
 // --- items
 
 TEST_F(MenuItemPainterTest, AnItemHasAGutterAndItsCaption) {
@@ -196,25 +209,6 @@ TEST_F(MenuItemPainterTest, AnItemHasAGutterAndItsCaption) {
             on.Text(Painter->GetTitleFont(), L"Caption", 0, {33, 14, 146, 42}, DT_EXTERNALLEADING);
             on.Text(Painter->GetTitleFont(), L"F5", 0, {33, 14, 146, 42}, DT_EXTERNALLEADING | DT_RIGHT);
         })));
-}
-
-TEST_F(MenuItemPainterTest, AnItemOfAFurtherColumnHasAGutterOfItsOwn) {
-    TMenuItem* item = AddItem(L"Caption");
-    item->SetChecked(true);
-    item->SetRadioItem(true);
-    const Pixels shown = Draw(*item, {40, 10, 150, 40});
-    EXPECT_EQ(shown.Part({40, 10, 66, 40}).Count(Gutter) + shown.Part({40, 10, 66, 40}).Count(clBlack),
-              26 * 30);
-    EXPECT_EQ(shown.Part({66, 10, 67, 40}).Count(GutterLine), 30);
-    EXPECT_EQ(shown.Part({67, 10, 70, 40}).Count(ItemGround), 3 * 30);
-    // The dot stands in it; the neighbour on the left stays as it was.
-    EXPECT_EQ(TRect(shown.Part({40, 10, 66, 40}).Bounds([](COLORREF c) { return c == clBlack; })),
-              TRect(9, 11, 17, 19));
-    EXPECT_EQ(shown.Part({0, 0, 40, Height}).Count(clWhite), 40 * Height);
-    TMenuItem* line = AddItem(L"-");
-    const Pixels separator = Draw(*line, {40, 10, 150, 20});
-    EXPECT_EQ(separator.Part({40, 10, 66, 20}).Count(Gutter), 26 * 10);
-    EXPECT_EQ(separator.Part({0, 0, 40, Height}).Count(clWhite), 40 * Height);
 }
 
 TEST_F(MenuItemPainterTest, WithoutGutterTheTextStartsFourPixelsFromTheLeft) {

@@ -1,5 +1,7 @@
 #include "menus/MenuItemPainter.h"
+#include "platform/vcl/graphics/ImageList.h"
 #include "tests/menus/ReplacementFixture.h"
+#include "tests/support/FilledBitmap.h"
 #include "tests/support/PixelProbe.h"
 
 // What users and hosts do with a mirrored menu while it is open, and how it looks in both styles.
@@ -118,6 +120,36 @@ TEST_F(MirroredMenuTest, ControlsThatAreNoneOfTheFrameworksFourAreLeftAlone) {
     }
 }
 
+TEST_F(MirroredMenuTest, AnItemsPlaceDecidesWhetherItGetsAnAction) {
+    Replace();
+    for (const bool isRoot : {false, true}) {
+        TActionClients& clients = Clients().GetItem(0)->GetItems();
+        clients.Clear();
+        Replacement->LoadMenu(*Manager, clients, *File, isRoot);
+        EXPECT_EQ(Replacement->Actions().size(), 3U) << isRoot;
+        EXPECT_FALSE(clients.GetAutoHotKeys());
+        clients.Clear();
+        Replacement->LoadMenu(*Manager, clients, Menu->GetItems(), isRoot);
+        EXPECT_EQ(Replacement->Actions().size(), 3U) << isRoot;
+        clients.Clear();
+        Input.Chord({VK_MENU}, 'E');
+        Bar->CloseMenu();
+        EXPECT_TRUE(Replacement->Actions().empty());
+    }
+}
+
+TEST_F(MirroredMenuTest, CaptionsAreComparedAsTheLocaleDoes) {
+    File->SetCaption(L"&\u00c4ndern");
+    Replace();
+    const int id = Clients().GetItem(0)->GetID();
+    File->SetCaption(L"&\u00e4NDERN");
+    Replacement->UpdateActionMainMenuBar(Menu);
+    EXPECT_EQ(Clients().GetItem(0)->GetID(), id);
+    File->SetCaption(L"&Andern");
+    Replacement->UpdateActionMainMenuBar(Menu);
+    EXPECT_NE(Clients().GetItem(0)->GetID(), id);
+}
+
 TEST_F(MirroredMenuTest, HiddenItemsStayHidden) {
     Save->SetVisible(false);
     Replace();
@@ -172,6 +204,37 @@ TEST_P(MirroredLookTest, EachItemLooksAsThePainterDrawsIt) {
         Bar->CloseMenu();
         Replacement.reset();
     }
+}
+
+TEST_P(MirroredLookTest, WhatTheCallbackTurnsOffLooksAsItWouldDisabled) {
+    TImageList images(nullptr);
+    const FilledBitmap picture(16, 16, clRed);
+    images.Add(&picture, nullptr);
+    for (const int kind : {0, 1, 2, 3}) {
+        Menu->SetImages(kind == 3 ? &images : nullptr);
+        Save->SetImageIndex(0);
+        Save->SetDefault(kind == 1);
+        Save->SetRadioItem(kind == 2);
+        Save->SetChecked(kind > 0);
+        if (kind == 3) AddItem(*Save, L"&Below");
+        std::vector<Pixels> looks;
+        for (const bool byCallback : {false, true}) {
+            Save->SetEnabled(byCallback);
+            Replace();
+            Replacement->OnIsItemEnabled = [&](TObject*, TMenuItem* item, const GUID&, bool& enabled) {
+                enabled = enabled && item != Save;
+            };
+            Input.Chord({VK_MENU}, 'F');
+            Input.KeyPress(VK_END);
+            ASSERT_EQ(Levels(), 1U);
+            looks.push_back(ReadClient(OpenMenu().WindowHandle()));
+            Bar->CloseMenu();
+            Replacement.reset();
+        }
+        EXPECT_TRUE(SamePixels(looks[1], looks[0])) << kind;
+        EXPECT_EQ(looks[0].Count(clRed) > 0, kind == 3);
+    }
+    Menu->SetImages(nullptr);
 }
 
 TEST_P(MirroredLookTest, CaptionsInTheBarAreDrawnByThePainter) {

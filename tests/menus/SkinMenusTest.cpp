@@ -1,6 +1,7 @@
 #include "menus/UnitQV7SkinMenus.h"
 #include "platform/vcl/controls/Messages.h"
 #include "tests/menus/PainterFixture.h"
+#include "tests/support/FreedMemory.h"
 #include "tests/support/PixelProbe.h"
 
 namespace test {
@@ -13,7 +14,10 @@ using namespace qv7skin;
 class ProbePainter : public TQV7SkinMenuItemPainterNice {
 public:
     explicit ProbePainter(bool& freed) : FFreed(freed) {}
-    ~ProbePainter() override { FFreed = true; }
+    ~ProbePainter() override {
+        FFreed = true;
+        if (AtEnd) AtEnd();
+    }
     void DrawItem(TMenuItem& Sender, TCanvas& ACanvas, const TRect& ARect, bool Selected,
                   bool arrow) override {
         ++Drawn;
@@ -22,6 +26,7 @@ public:
     }
     int Drawn = 0;
     bool Arrow = false;
+    std::function<void()> AtEnd;
 
 private:
     bool& FFreed;
@@ -107,6 +112,15 @@ TEST_F(SkinMenusTest, ANewPainterFreesTheOldOne) {
     EXPECT_TRUE(Freed);
 }
 
+TEST_F(SkinMenusTest, TheOldPainterIsFreedFirst) {
+    TQV7SkinMenuItemPainter* present = Probe;
+    Probe->AtEnd = [&] { present = QV7SkinMenuItemPainter(); };
+    auto* next = new TQV7SkinMenuItemPainter();
+    SetQV7SkinMenuItemPainter(next);
+    EXPECT_EQ(present, nullptr);
+    EXPECT_EQ(QV7SkinMenuItemPainter(), next);
+}
+
 TEST_F(SkinMenusTest, WithoutAPainterTheNextPopupIsTheSystems) {
     OpenAndPress(VK_ESCAPE);
     EXPECT_TRUE(Popup->GetOwnerDraw());
@@ -158,6 +172,7 @@ TEST_F(SkinMenusTest, TheMainMenuIsLaidOutOnDemand) {
     int width = 3;
     int height = 4;
     (void)DrawOn([&](TCanvas& canvas) { main.DoCustomMeasureItem(open, canvas, width, height); });
+    EXPECT_EQ(open->OnDrawItem.ObjectPart(), dynamic_cast<void*>(&main));
     EXPECT_EQ(width, 3);
     EXPECT_EQ(height, 4);
 }
@@ -173,6 +188,103 @@ TEST_F(SkinMenusTest, ShortCutsRunBetweenTheirEvents) {
     key.WParam = VK_F6;
     EXPECT_FALSE(Popup->IsShortCut(key));
     EXPECT_EQ(Events, (std::vector<std::wstring>{L"before", L"after"}));
+}
+
+TEST_F(SkinMenusTest, TheMainMenusShortCutsRunBetweenTheirEvents) {
+    TQV7SkinMainMenu main(nullptr);
+    Add(main.GetItems(), L"&File")->SetShortCut(VK_F5);
+    main.OnBeforeExecuteShortCut = [&](TObject* sender) {
+        EXPECT_EQ(dynamic_cast<TQV7SkinMainMenu*>(sender), &main);
+        Events.push_back(L"before");
+    };
+    main.OnAfterExecuteShortCut = [&](TObject* sender) {
+        EXPECT_EQ(dynamic_cast<TQV7SkinMainMenu*>(sender), &main);
+        Events.push_back(L"after");
+    };
+    TMessage key{WM_KEYDOWN, VK_F5, 0, 0};
+    EXPECT_TRUE(main.IsShortCut(key));
+    EXPECT_EQ(Events, (std::vector<std::wstring>{L"before", L"File", L"after"}));
+    key.WParam = VK_F6;
+    EXPECT_FALSE(main.IsShortCut(key));
+    EXPECT_EQ(Events.size(), 5U);
+}
+
+TEST_F(SkinMenusTest, ThePopupMenusSecondEventComesAlsoAfterAnError) {
+    Popup->GetItems().GetItem(0)->SetShortCut(VK_F5);
+    Popup->GetItems().GetItem(0)->OnClick = [](TObject*) { throw EInvalidOperation(L"no"); };
+    Popup->OnAfterExecuteShortCut = [this](TObject*) { Events.push_back(L"after"); };
+    TMessage key{WM_KEYDOWN, VK_F5, 0, 0};
+    EXPECT_THROW(Popup->IsShortCut(key), EInvalidOperation);
+    EXPECT_EQ(Events, std::vector<std::wstring>{L"after"});
+}
+
+TEST_F(SkinMenusTest, AMenuMayGoInTheEventsOfItsShortCuts) {
+    for (const int when : {0, 1, 2}) {
+        const FreedMemory guard;
+        auto* main = new TQV7SkinMainMenu(nullptr);
+        TMenuItem* item = Add(main->GetItems(), L"&File");
+        item->SetShortCut(VK_F5);
+        const auto end = [&](TObject*) {
+            Events.push_back(L"end");
+            delete main;
+        };
+        main->OnAfterExecuteShortCut = [this](TObject*) { Events.push_back(L"after"); };
+        (when == 0   ? main->OnBeforeExecuteShortCut
+         : when == 1 ? item->OnClick
+                     : main->OnAfterExecuteShortCut) = end;
+        TMessage key{WM_KEYDOWN, VK_F5, 0, 0};
+        EXPECT_TRUE(main->IsShortCut(key)) << when;
+        EXPECT_EQ(Events.back(), L"end");
+        EXPECT_EQ(FreedMemory::WrittenBlocks(), 0);
+    }
+}
+
+TEST_F(SkinMenusTest, AnErrorOfTheItemReachesTheApplicationAndTheMenuClosesUp) {
+    Popup->GetItems().GetItem(0)->OnClick = [](TObject*) { throw EInvalidOperation(L"no"); };
+    Popup->OnCloseUp = [this](TObject* sender) {
+        EXPECT_EQ(dynamic_cast<TQV7SkinPopupMenu*>(sender), Popup.get());
+        Events.push_back(L"closed");
+    };
+    OpenAndPress('O');
+    EXPECT_EQ(Errors, std::vector<std::string>{"EInvalidOperation: no"});
+    EXPECT_EQ(Events, std::vector<std::wstring>{L"closed"});
+    Errors.clear();
+    OpenAndPress('T');
+    EXPECT_EQ(Events.back(), L"closed");
+}
+
+TEST_F(SkinMenusTest, WhatIsNoItemIsNeitherDrawnNorMeasured) {
+    TQV7SkinMainMenu main(nullptr);
+    int width = 3;
+    int height = 4;
+    for (TObject* sender : {static_cast<TObject*>(nullptr), static_cast<TObject*>(Probe)}) {
+        const Pixels shown = DrawOn([&](TCanvas& canvas) {
+            main.DoCustomDrawItem(sender, canvas, {0, 0, 150, 30}, false);
+            Popup->DoCustomDrawItem(sender, canvas, {0, 0, 150, 30}, false);
+            main.DoCustomMeasureItem(sender, canvas, width, height);
+            Popup->DoCustomMeasureItem(sender, canvas, width, height);
+        });
+        EXPECT_EQ(shown.Count(clWhite), Width * Height);
+    }
+    EXPECT_EQ(width, 3);
+    EXPECT_EQ(height, 4);
+}
+
+TEST_F(SkinMenusTest, AMainMenuOfAFormFileIsLaidOutWhenItIsComplete) {
+    for (const bool isDesigning : {false, true})
+        for (const bool isActive : {false, true}) {
+            TQV7SkinMainMenu main(nullptr);
+            Probe->SetActive(isActive);
+            if (isDesigning) main.SetDesigning(true);
+            main.BeginLoading();
+            TMenuItem* item = Add(main.GetItems(), L"&File");
+            EXPECT_FALSE(item->OnDrawItem);
+            main.EndLoading();
+            EXPECT_EQ(main.GetOwnerDraw(), isActive && !isDesigning);
+            EXPECT_EQ(item->OnDrawItem.IsAssigned(), isActive && !isDesigning);
+            // What comes later is hooked too.
+            EXPECT_EQ(Add(*item, L"&Open")->OnDrawItem.IsAssigned(), isActive && !isDesigning);
+        }
 }
 
 TEST_F(SkinMenusTest, TheSecondEventComesAlsoAfterAnError) {

@@ -49,6 +49,8 @@ void MakeSystemBrushes() {
 void OpenAMenu(HWND owner) {
     const HMENU menu = CreatePopupMenu();
     AppendMenuW(menu, MF_STRING, 1, L"x");
+    // The pens of its line.
+    AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
     Later([] { EndMenu(); });
     TrackPopupMenu(menu, 0, 0, 0, 0, owner, nullptr);
     DestroyMenu(menu);

@@ -75,13 +75,30 @@ void TActionMenuLoop::Leave(TCustomActionControl* chosen) {
     if (::GetCapture() == FBar.WindowHandle()) ::ReleaseCapture();
     FBar.Update();
     if (!bar.IsAlive()) return;
-    if (action) {
-        const TLifeGuard guard(*action);
-        action->SetActionComponent(&FBar);
-        action->Execute();
-        if (guard.IsAlive()) action->SetActionComponent(nullptr);
+    const bool isCancelled = chosen == nullptr;
+    try {
+        if (action) Execute(*action);
+    } catch (...) {
+        // The loop has ended all the same.
+        if (bar.IsAlive()) FBar.OnExitMenuLoop(&FBar, isCancelled);
+        throw;
     }
-    if (bar.IsAlive()) FBar.OnExitMenuLoop(&FBar, chosen == nullptr);
+    if (bar.IsAlive()) FBar.OnExitMenuLoop(&FBar, isCancelled);
+}
+
+void TActionMenuLoop::Execute(TBasicAction& action) {
+    const TLifeGuard guard(action);
+    const auto end = [&] {
+        if (guard.IsAlive()) action.SetActionComponent(nullptr);
+    };
+    action.SetActionComponent(&FBar);
+    try {
+        action.Execute();
+    } catch (...) {
+        end();
+        throw;
+    }
+    end();
 }
 
 void TActionMenuLoop::ControlsGoing(const TCustomActionBar& bar) {

@@ -10,6 +10,7 @@ namespace vcl {
 
 class TActionMainMenuBar;
 class TActionPopupMenu;
+class TBasicAction;
 class TCustomActionBar;
 class TCustomActionControl;
 
@@ -45,6 +46,8 @@ private:
     /// Drops the items of a control down; false when there are none or the bar is gone.
     bool Open(TCustomActionBar& bar, TCustomActionControl& control, bool selectFirst);
     void Choose(TCustomActionControl& control);
+    /// Runs the action for the bar.
+    void Execute(TBasicAction& action);
     // mouse
     [[nodiscard]] TCustomActionControl* ControlAt(TPoint screen, TCustomActionBar*& bar) const;
     void MouseMove(TPoint screen);
