@@ -138,6 +138,19 @@ TEST_F(ExplorerBarLayoutTest, TheMouseMovedDuringAnUpdatePaintsNothing) {
     EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
 }
 
+TEST_F(ExplorerBarLayoutTest, WhatAnUpdateHidIsNotHit) {
+    Fill(2, 3);
+    const TRect link = Item(0, 1).ClipRect();
+    const TRect header = Group(1).HeaderRect();
+    Bar().BeginUpdate();
+    Item(0, 1).SetVisible(false);
+    Group(1).SetVisible(false);
+    EXPECT_EQ(Bar().GetHotArea(link.Left + 2, link.Top + 2), nullptr);
+    EXPECT_EQ(Bar().GetHotArea(header.Left + 2, header.Top + 2), nullptr);
+    Bar().EndUpdate();
+    EXPECT_EQ(Bar().GetHotArea(link.Left + 2, link.Top + 2), &Item(0, 2)) << "which moved up";
+}
+
 TEST_F(ExplorerBarLayoutTest, WhatIsUnderTheCursorIsFoundByThePlaceInTheBar) {
     Fill(2, 30);
     MoveTo(Item(0, 2));

@@ -294,6 +294,33 @@ TEST_F(ItemLayoutTest, ATickedBoxIsMeasuredRegularAndPaintedBold) {
     EXPECT_EQ(Drawn(item, {0, 0, room}), Line() + 1) << "disabled it is regular";
 }
 
+TEST_F(ItemLayoutTest, ATextLowerThanTheBoxStandsBesideItsMiddle) {
+    Canvas().GetFont().SetHeight(-7);
+    const int line = Canvas().TextHeight(L"A");
+    const int box = CheckBoxGlyphSize().Height;
+    ASSERT_LT(line + 1, box);
+    TQV7SkinExplorerItemCheckBox one(L"x", 0, L"", false, true, true);
+    EXPECT_EQ(Drawn(one), box) << "a box is as high as its glyph at least";
+    EXPECT_EQ(Measured(one), box);
+    TQV7SkinExplorerItemCheckBox two(L"x\r\nx", 0, L"", false, true, true);
+    EXPECT_EQ(Drawn(two), (box - line) / 2 + 2 * (line + 1));
+    EXPECT_EQ(Measured(two), (box - line) / 2 + 2 * (line + 1));
+    const RECT ink = Shown()
+                         .Part({CheckBoxGlyphSize().Width + 7, 0, BitmapWidth, BitmapHeight})
+                         .Bounds([](COLORREF color) { return color != clWhite; });
+    EXPECT_GE(ink.top, (box - line) / 2);
+}
+
+TEST_F(ItemLayoutTest, TheLeftEdgeWidensTheLimitsOfACheckBox) {
+    const String text = L"Unterordner durchsuchen";
+    TQV7SkinExplorerItemCheckBox item(text, -1, L"", false, true, true);
+    const int width = Wide(text) + 10 + CheckBoxGlyphSize().Width;
+    EXPECT_EQ(Measured(item, {0, 0, width}), 2 * (Line() + 1)) << "exactly as wide is too wide";
+    EXPECT_EQ(Measured(item, {1, 0, width}), Line() + 1);
+    EXPECT_EQ(Drawn(item, {7, 0, width}), 2 * (Line() + 1));
+    EXPECT_EQ(Drawn(item, {8, 0, width}), Line() + 1);
+}
+
 // --- bitmap
 
 TEST_F(ItemLayoutTest, APictureStandsWhereItsAlignmentSays) {
@@ -332,6 +359,11 @@ TEST_F(ItemLayoutTest, APictureIsScaledDownOnlyWithAutoSize) {
     EXPECT_EQ(Measured(item, {0, 0, 50}), static_cast<int>(40.0 / 300 * 101) + 1) << "the group is narrower";
     item.SetMaxWidth(1000);
     EXPECT_EQ(Measured(item, {0, 0, 400}), 102);
+    item.SetMaxWidth(1);
+    Measured(item, {0, 0, 400});
+    EXPECT_EQ(item.GetDisplayBitmap().GetWidth(), 1) << "the least that limits";
+    item.SetMaxWidth(-5);
+    EXPECT_EQ(Measured(item, {0, 0, 400}), 102) << "no limit";
 }
 
 TEST_F(ItemLayoutTest, AGroupTooNarrowForAPictureShowsNone) {

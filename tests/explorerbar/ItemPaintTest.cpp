@@ -132,6 +132,13 @@ TEST_F(ItemPaintTest, AnIconStandsBeforeTheTextWithItsTransparentColorLeftOut) {
     item.SetTransparentColor(clNone);
     Drawn(item, {0, 4, 200});
     EXPECT_TRUE(shows(true));
+    item.SetTransparentColor(probes::Magenta);
+    item.SetIcon(nullptr);
+    item.SetIcon(icon.get());
+    Canvas().GetBrush().SetColor(clYellow);
+    Bitmap().GetCanvas().FillRect({0, 0, BitmapWidth, BitmapHeight});
+    Drawn(item, {0, 4, 200});
+    EXPECT_TRUE(shows(false)) << "a new icon has the colour left out, too";
 }
 
 TEST_F(ItemPaintTest, AnIconLowerThanARowIsLoweredToItsMiddle) {

@@ -120,6 +120,15 @@ TEST_F(ItemsInGroupTest, LinksShowTheImageOfTheirNumber) {
     const RECT found = Shown(link).Bounds([](COLORREF color) { return color == clRed; });
     EXPECT_EQ(TRect(found), TRect(0, 0, 16, 16));
     EXPECT_EQ(place.Width(), bare->ClipRect().Width() + 21) << "indented by the list's width and 5 more";
+    const auto own = probes::BitmapOf(8, 30, clBlue);
+    link->SetIcon(own.get());
+    ShowAll();
+    EXPECT_EQ(link->ClipRect().Width(), bare->ClipRect().Width() + 8 + 5) << "a bitmap comes before a number";
+    EXPECT_EQ(link->ClipRect().Height(), 32);
+    EXPECT_EQ(Shown(link).Count(clBlue), 8 * 30);
+    EXPECT_EQ(Shown(link).Count(clRed), 0);
+    link->SetIcon(nullptr);
+    ShowAll();
     link->SetIconIndex(-1);
     EXPECT_EQ(link->ClipRect().Height(), Line() + 1);
     Bar->SetItemIcons(nullptr);
