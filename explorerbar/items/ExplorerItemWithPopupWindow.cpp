@@ -3,6 +3,7 @@
 #include "explorerbar/UnitQV7SkinExplorerBar.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "skin/surfaces/ScrolledPaintBox.h"
 
 namespace qv7skin {
 
@@ -74,11 +75,19 @@ void TQV7SkinExplorerItemWithPopupWindow::DoShowWindow() {
 }
 
 void TQV7SkinExplorerItemWithPopupWindow::DoLeaveWindow(TObject*) {
-    TQV7SkinExplorerBar* bar = GetBar();
     if (!FPopupWindow || FPopupWindow->GetLocked() || FPopupWindow->GetShowBorder()) return;
     POINT at{};
     ::GetCursorPos(&at);
-    if (!FPopupWindow->GetBoundsRect().Contains(at) && (!bar || bar->HotObject != this)) FPopupWindow->Hide();
+    if (!FPopupWindow->GetBoundsRect().Contains(at) && !IsHotArea() && !IsAt(at)) FPopupWindow->Hide();
+}
+
+/// Whether the mouse at that place of the screen is over the item, of which the bar may not have heard yet:
+/// the window that the mouse left is told first.
+bool TQV7SkinExplorerItemWithPopupWindow::IsAt(TPoint Place) const {
+    TQV7SkinExplorerBar* bar = GetBar();
+    if (!bar || ::WindowFromPoint(Place) != bar->GetPaintBox().WindowHandle()) return false;
+    const TPoint inContent = bar->GetPaintBox().ScreenToClient(Place);
+    return bar->GetHotArea(inContent.X, inContent.Y) == this;
 }
 
 }  // namespace qv7skin

@@ -49,6 +49,7 @@ public:
 private:
     void DoShowWindow();
     void DoLeaveWindow(TObject* Sender);
+    [[nodiscard]] bool IsAt(TPoint Place) const;
 
     TQV7SkinExplorerItemPopupWindow* FPopupWindow;
 };

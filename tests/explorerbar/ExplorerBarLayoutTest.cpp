@@ -205,6 +205,36 @@ TEST_F(ExplorerBarLayoutTest, ItemsOfAllLooksAreRepaintedWholeUnderTheMouse) {
     }
 }
 
+TEST_F(ExplorerBarLayoutTest, SlantedLettersAreRepaintedToTheirEnds) {
+    Fill(1, 1);
+    Bar().ItemHotTextColor = clRed;
+    Bar().GetFont().SetHeight(-30);
+    Bar().GetFont().SetStyle({fsItalic});
+    class TSlanted : public TCheck {
+    public:
+        using TCheck::TCheck;
+        void Draw(TBitmap& Bitmap, int& Left, int& Top, int& Width) override {
+            const int top = Top;
+            TCheck::Draw(Bitmap, Left, Top, Width);
+            TCanvas& canvas = Bitmap.GetCanvas();
+            canvas.GetFont().SetStyle({fsItalic});
+            canvas.TextOut(Left + GetTextIndent(), top, GetCaption());
+        }
+    };
+    auto& box = AddTo(0, new TSlanted(L"dddl", 0, L"", false, true, true));
+    const auto reach = [&] {
+        PumpAll();
+        return Shown().Part({0, box.ClipRect().Top, 200, box.ClipRect().Bottom}).Bounds([](COLORREF color) {
+            return color != clWhite;
+        });
+    };
+    ASSERT_GT(reach().right, box.ClipRect().Right) << "letters lean beyond the text's width";
+    MoveTo(box);
+    EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+    MoveTo(Item(0, 0));
+    EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+}
+
 TEST_F(ExplorerBarLayoutTest, ATimerRunsOnlyWhileSomethingMoves) {
     const auto timers = [] { return TLedger::Snapshot()["timer"]; };
     const long before = timers();

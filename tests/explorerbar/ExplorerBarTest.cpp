@@ -195,6 +195,12 @@ TEST_F(ExplorerBarTest, ItemsComeIntoViewByTheShortestWay) {
     Bar().ScrollIntoView(nullptr);
     Group(3).ScrollIntoView(true);
     EXPECT_EQ(ScrollPos() + 300, Group(3).HeaderRect().Bottom);
+    Group(2).ScrollIntoView(false);
+    EXPECT_EQ(ScrollPos(), Group(2).HeaderRect().Top);
+    Bar().SetHeight(400);
+    Group(3).ScrollIntoView(false);
+    EXPECT_EQ(ScrollPos() + 400, Group(3).BodyRect().Bottom);
+    Bar().SetHeight(300);
     Group(0).ScrollIntoView(false);
     EXPECT_EQ(ScrollPos(), 0);
 }

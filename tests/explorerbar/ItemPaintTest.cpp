@@ -90,6 +90,16 @@ TEST_F(ItemPaintTest, ABlockTextIsCutAtTheRoomThatIsLeft) {
     EXPECT_TRUE(SamePixels(Shown(), expected));
 }
 
+TEST_F(ItemPaintTest, ABlockCaptionWithoutRoomIsLeftOut) {
+    TQV7SkinExplorerItemCaptionBlockPair item(L"Typ", L"Ein langer Text");
+    TRun run{0, 0, 40};
+    item.DrawWithOffset(Bitmap(), 20, run.Left, run.Top, run.Width);
+    const Pixels expected = Expected([&](TCanvas& canvas) {
+        WriteRow(canvas, {30, 0, 60, Line()}, L"Ein langer Text", clBlack);
+    });
+    EXPECT_TRUE(SamePixels(Shown(), expected));
+}
+
 TEST_F(ItemPaintTest, ALinkIsBlueAndWrapped) {
     TQV7SkinExplorerItemLink item(L"Eine Datei\r\nöffnen", L"");
     Drawn(item, {3, 8, 200});

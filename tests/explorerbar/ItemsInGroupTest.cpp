@@ -134,6 +134,17 @@ TEST_F(ItemsInGroupTest, LinksShowTheImageOfTheirNumber) {
     Bar->SetItemIcons(nullptr);
 }
 
+TEST_F(ItemsInGroupTest, AnImageLowerThanARowStandsAtItsTop) {
+    TImageList icons(nullptr, 9, 5);
+    icons.AddMasked(probes::BitmapOf(9, 5, clRed).get(), clNone);
+    Bar->SetItemIcons(&icons);
+    auto* link = Add(new TQV7SkinExplorerItemLink(L"Text", L"", 0));
+    const RECT found = Shown(link).Bounds([](COLORREF color) { return color == clRed; });
+    EXPECT_EQ(TRect(found), TRect(0, 0, 9, 5));
+    EXPECT_EQ(link->ClipRect().Height(), Line() + 1);
+    Bar->SetItemIcons(nullptr);
+}
+
 TEST_F(ItemsInGroupTest, ALinkIsCutFiveBeforeTheGroupsEnd) {
     auto* link = AddLink(L"Eine Beschriftung, die für die Leiste viel zu lang ist und endet");
     link->SetWordWrap(false);

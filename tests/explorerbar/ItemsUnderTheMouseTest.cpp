@@ -63,6 +63,22 @@ TEST_F(ItemsUnderTheMouseTest, OnlyClickablePairsShowTheHotColor) {
     EXPECT_EQ(Bar->GetPaintBox().GetCursor(), crHandPoint);
 }
 
+TEST_F(ItemsUnderTheMouseTest, AClickableBlockPairShowsTheHotColorAndALine) {
+    Bar->ItemHotTextColor = clRed;
+    auto* plain = Add(new TQV7SkinExplorerItemCaptionBlockPair(L"Name", L""));
+    auto* active = Add(new TQV7SkinExplorerItemCaptionBlockPair(L"Name", true, L""));
+    const auto looks = [&](const TQV7SkinExplorerItemCustom* item, TColor color, TFontStyles style) {
+        const RECT part{0, 0, 60, item->ClipRect().Height()};
+        return SamePixels(Shown(item).Part(part), Text(item, 0, L"Name", color, style).Part(part));
+    };
+    MoveOn(plain);
+    EXPECT_TRUE(looks(plain, clBlack, {}));
+    MoveOn(active);
+    EXPECT_TRUE(looks(active, clRed, {fsUnderline}));
+    MoveOnHeader();
+    EXPECT_TRUE(looks(active, clBlack, {}));
+}
+
 TEST_F(ItemsUnderTheMouseTest, ADisabledBoxShowsNothingOfTheMouse) {
     Bar->ItemHotTextColor = clRed;
     auto* box = Add(new TQV7SkinExplorerItemCheckBox(L"Wahl", 0, L"", true, false, true));

@@ -1,5 +1,6 @@
 #include "explorerbar/UnitQV7SkinExplorerBarFocus.h"
 #include "tests/explorerbar/ItemsOnBarFixture.h"
+#include "tests/support/SkinTesting.h"
 
 // Items that have the keyboard focus: where the dotted frame is, and what keys do.
 
@@ -43,6 +44,27 @@ TEST_F(ItemsWithFocusTest, TheFrameOfALinkGoesRoundItsText) {
     const TRect frame = Frame();
     // Dots leave every second pixel out, so that each edge may end one pixel earlier.
     const TRect expected = Around({5, place.Top, 5 + Wide(L"und mehr Text"), place.Bottom});
+    EXPECT_EQ(frame.TopLeft(), expected.TopLeft());
+    EXPECT_NEAR(frame.Right, expected.Right, 1);
+    EXPECT_NEAR(frame.Bottom, expected.Bottom, 1);
+}
+
+TEST_F(ItemsWithFocusTest, TheFrameLeavesOutTheIcon) {
+    const auto icon = probes::BitmapOf(20, 30, clRed);
+    auto* link = AddFocused(new TQV7SkinExplorerItemLink(L"Verweis", L"", icon.get()));
+    const TRect place = link->ClipRect();
+    const TRect frame = Frame();
+    const TRect expected = Around({5 + 20 + 5, place.Top, 30 + Wide(L"Verweis"), place.Bottom});
+    EXPECT_EQ(frame.TopLeft(), expected.TopLeft());
+    EXPECT_NEAR(frame.Right, expected.Right, 1);
+    EXPECT_NEAR(frame.Bottom, expected.Bottom, 1);
+}
+
+TEST_F(ItemsWithFocusTest, TheFrameOfABlockPairReachesFromCaptionToBlock) {
+    auto* pair = AddFocused(new TQV7SkinExplorerItemCaptionBlockPair(L"Name", true, L"Block"));
+    const TRect place = pair->ClipRect();
+    const TRect frame = Frame();
+    const TRect expected = Around({5, place.Top, 10 + Wide(L"Name") + Wide(L"Block"), place.Bottom});
     EXPECT_EQ(frame.TopLeft(), expected.TopLeft());
     EXPECT_NEAR(frame.Right, expected.Right, 1);
     EXPECT_NEAR(frame.Bottom, expected.Bottom, 1);

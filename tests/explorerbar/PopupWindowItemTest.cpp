@@ -73,16 +73,21 @@ TEST_F(PopupWindowItem, ADetachedWindowIsLeftWhereItIs) {
     EXPECT_TRUE(Window().GetVisible());
     EXPECT_EQ(Window().GetBoundsRect().TopLeft(), TPoint(500, 400));
     Input.MoveAway();
-    PumpAll();
+    EXPECT_TRUE(test::PumpUntil([&] { return Bar().HotObject == nullptr; }));
+    EXPECT_TRUE(Window().GetVisible());
+    MoveTo(PopupItem());
+    MoveTo(Item(0, 0));
     EXPECT_TRUE(Window().GetVisible());
 }
 
 TEST_F(PopupWindowItem, TheMouseMayGoFromTheWindowBackToTheItem) {
     MoveTo(PopupItem());
-    Input.MoveTo(Window().GetHandle(), 40, 30);
+    const HWND window = Window().GetHandle();
+    Input.MoveTo(window, 40, 30);
     MoveTo(PopupItem());
     PumpAll();
     EXPECT_TRUE(Window().GetVisible());
+    EXPECT_EQ(Window().GetHandle(), window) << "it is not shown once more";
     EXPECT_EQ(Bar().HotObject, &PopupItem());
 }
 
@@ -107,6 +112,7 @@ TEST_F(PopupWindowItem, MayBeFreedAsTheMouseComesAndGoes) {
     MoveTo(PopupItem());
     EXPECT_EQ(Group(0).GetItems().GetCount(), 1);
     EXPECT_FALSE(Window().GetVisible());
+    EXPECT_FALSE(Window().OnLeaveWindow);
     auto& second = AddTo(0, new TQV7SkinExplorerItemWithPopupWindow(&Window()));
     second.SetCaption(L"Mehr");
     MoveTo(Item(0, 0));
@@ -115,6 +121,7 @@ TEST_F(PopupWindowItem, MayBeFreedAsTheMouseComesAndGoes) {
     second.OnLeave = TNotifyEvent([&](TObject*) { Group(0).GetItems().Delete(1); });
     MoveTo(Item(0, 0));
     EXPECT_EQ(Group(0).GetItems().GetCount(), 1);
+    EXPECT_FALSE(Window().OnLeaveWindow) << "nobody is told any more";
 }
 
 TEST_F(PopupWindowItem, ReturnOpensItsWindowInsteadOfClicking) {
@@ -147,6 +154,36 @@ TEST_F(PopupWindowItem, InAScrolledBarItsWindowStandsLowerByTheScrollPosition) {
     MoveTo(PopupItem());
     const int bottom = PopupItem().ClipRect().Bottom;
     EXPECT_EQ(Window().GetBoundsRect().TopLeft(), Bar().ClientToScreen({0, bottom + 15 - 2}));
+}
+
+TEST_F(PopupWindowItem, TheWindowIsAttachedToTheFormOfTheBar) {
+    ProbedWindow loose(nullptr);
+    ASSERT_EQ(loose.GetAttachedTo(), nullptr);
+    PopupItem().SetPopupWindow(&loose);
+    MoveTo(PopupItem());
+    EXPECT_TRUE(loose.GetVisible());
+    EXPECT_EQ(loose.GetAttachedTo(), &Form());
+    EXPECT_EQ(::GetWindow(loose.GetHandle(), GW_OWNER), Form().GetHandle());
+    PopupItem().SetPopupWindow(nullptr);
+}
+
+TEST_F(PopupWindowItem, AWindowTellsThatItWasLeftOnlyWhileItIsAttached) {
+    std::vector<TObject*> senders;
+    Window().SetBounds(400, 300, 150, 100);
+    Window().Show();
+    Window().OnLeaveWindow = [&](TObject* sender) { senders.push_back(sender); };
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    Input.MoveAway();
+    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetMouseInClient(); }));
+    EXPECT_EQ(senders, std::vector<TObject*>{&Window()});
+    Window().SetShowBorder(true);
+    PumpAll();
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    EXPECT_TRUE(Window().GetMouseInClient());
+    Input.MoveAway();
+    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetMouseInClient(); }));
+    EXPECT_EQ(senders.size(), 1U);
+    Window().OnLeaveWindow.Clear();
 }
 
 TEST_F(PopupWindowItem, TakesOnlyWindowsOfItsClass) {
