@@ -136,7 +136,8 @@ void TFlickerFreePaintBox::NoDeform() {
 }
 
 void TFlickerFreePaintBox::PaintNow() {
-    if (HandleAllocated()) Paint();
+    // A window out of sight is painted when it appears.
+    if (HandleAllocated() && ::IsWindowVisible(WindowHandle())) Paint();
 }
 
 void TFlickerFreePaintBox::Paint() {

@@ -50,12 +50,6 @@ void TPushControl::CreateParams(TCreateParams& params) {
     params.WindowClass.style |= CS_OWNDC;
 }
 
-void TPushControl::CreateWnd() {
-    TCustomControl::CreateWnd();
-    FWindowDC.reset();
-    FWindowDC.emplace(WindowHandle());
-}
-
 void TPushControl::DestroyWnd() {
     FFaces.Release();
     FWindowDC.reset();
@@ -146,16 +140,21 @@ void TPushControl::WmPaint(TMessage& message) {
     const TRect client = GetClientRect();
     const bool isAllFace =
         client.Width() == GetWidth() && client.Height() == GetHeight() && GetControlCount() == 0;
-    if (message.WParam != 0 || !FWindowDC || !isAllFace || GetDoubleBuffered())
-        return TCustomControl::Dispatch(message);
+    if (message.WParam != 0 || !isAllFace || GetDoubleBuffered()) return TCustomControl::Dispatch(message);
     // A whole face covers everything there is to paint: neither the area that needs it matters nor a frame,
     // and asking the system for them would take most of the time.
     ::ValidateRect(WindowHandle(), nullptr);
-    PaintWindow(FWindowDC->Get());
+    PaintWindow(WindowDC());
+}
+
+/// Fetched when it is needed: shape and place of a new window may change until then.
+HDC TPushControl::WindowDC() {
+    if (!FWindowDC) FWindowDC.emplace(WindowHandle());
+    return FWindowDC->Get();
 }
 
 void TPushControl::ShowFace() {
-    if (FWindowDC && HandleAllocated() && GetShowing()) PaintWindow(FWindowDC->Get());
+    if (HandleAllocated() && GetShowing()) PaintWindow(WindowDC());
 }
 
 void TPushControl::Repaint() {

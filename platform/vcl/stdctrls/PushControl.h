@@ -65,7 +65,6 @@ protected:
     void Dispatch(TMessage& message) override;
     void PaintWindow(HDC dc) override;
     void CreateParams(TCreateParams& params) override;
-    void CreateWnd() override;
     void DestroyWnd() override;
     void Loaded() override;
     void MouseEnter() override;
@@ -106,6 +105,7 @@ private:
     [[nodiscard]] TPushState StateNow() const;
     [[nodiscard]] int LookNow() const;
     void ShowFace();
+    [[nodiscard]] HDC WindowDC();
     [[nodiscard]] bool TakesDialogKey(WORD key);
     // Handlers of the message map; those that tell say whether the control still lives.
     void WmPaint(TMessage& message);
@@ -120,7 +120,7 @@ private:
     void CmDialogChar(TMessage& message);
 
     TFaceCache FFaces;
-    std::optional<TWindowDC> FWindowDC;  ///< The window's own, kept as long as the window.
+    std::optional<TWindowDC> FWindowDC;  ///< The window's own, kept from the first painting on.
     TModalResult FModalResult = mrNone;
     TPushState FState = pshNormal;
     bool FDefault = false;
