@@ -138,6 +138,22 @@ TEST_F(ExplorerBarLayoutTest, TheMouseMovedDuringAnUpdatePaintsNothing) {
     EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
 }
 
+TEST_F(ExplorerBarLayoutTest, AnItemThatHasTheBarMeasureWhileItIsMeasuredEndsNowhere) {
+    class TEager : public TFlashingItem {
+    public:
+        void Measure(TBitmap& Bitmap, int& Left, int& Top, int& Width) override {
+            TFlashingItem::Measure(Bitmap, Left, Top, Width);
+            GetBar()->Measure();
+        }
+    };
+    Fill(1, 1);
+    auto& item = AddTo(0, new TEager);
+    item.Measured = 0;
+    Bar().Measure();
+    EXPECT_EQ(item.Measured, 1);
+    EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+}
+
 TEST_F(ExplorerBarLayoutTest, WhatAnUpdateHidIsNotHit) {
     Fill(2, 3);
     const TRect link = Item(0, 1).ClipRect();

@@ -293,6 +293,33 @@ TEST_F(ExplorerBarTest, TheCursorIsAHandOverLinksAndHeaders) {
     MoveTo(Item(0, 0));
     Input.MoveAway();
     EXPECT_TRUE(PumpUntil([&] { return Box().GetCursor() == crDefault; }));
+    const TRect link = Item(0, 0).ClipRect();
+    Box().OnMouseMove(&Box(), {}, link.Left + 2, link.Top + 2);
+    EXPECT_EQ(Box().GetCursor(), crHandPoint);
+    Item(0, 0).OnClick = [&](TObject*) { Group(0).GetItems().Delete(0); };
+    Box().OnMouseUp(&Box(), mbLeft, {}, link.Left + 2, link.Top + 2);
+    EXPECT_EQ(Bar().HotObject, nullptr);
+    EXPECT_EQ(Box().GetCursor(), crDefault) << "what was clicked is gone";
+}
+
+TEST_F(ExplorerBarTest, OnlyTheLeftButtonClicks) {
+    Fill(1, 1);
+    Watch(Item(0, 0), "0");
+    MoveTo(Item(0, 0));
+    Log.clear();
+    for (const auto button : {test::MouseButton::Right, test::MouseButton::Middle}) {
+        Input.Press(button);
+        Input.Release(button);
+    }
+    EXPECT_TRUE(Log.empty());
+    int paints = 0;
+    const TFFPaintEvent painter = Box().OnFFPaint;
+    Box().OnFFPaint = [&](TObject*, TBitmap*) { ++paints; };
+    Input.Press();
+    Input.Release();
+    EXPECT_EQ(Log, (std::vector<std::string>{"click 0"}));
+    EXPECT_EQ(paints, 1) << "whatever the click changed";
+    Box().OnFFPaint = painter;
 }
 
 TEST_F(ExplorerBarTest, MovesWithAButtonOrKeyHeldAreIgnored) {
@@ -308,6 +335,13 @@ TEST_F(ExplorerBarTest, MovesWithAButtonOrKeyHeldAreIgnored) {
     MoveTo(Item(0, 2));
     EXPECT_EQ(Bar().HotObject, &Item(0, 0));
     Input.KeyUp(VK_SHIFT);
+    const TRect other = Item(0, 2).ClipRect();
+    for (const TShiftKey held : {ssShift, ssAlt, ssCtrl, ssLeft, ssRight, ssMiddle}) {
+        Box().OnMouseMove(&Box(), {held}, other.Left + 2, other.Top + 2);
+        EXPECT_EQ(Bar().HotObject, &Item(0, 0));
+    }
+    Box().OnMouseMove(&Box(), {}, other.Left + 2, other.Top + 2);
+    EXPECT_EQ(Bar().HotObject, &Item(0, 2));
 }
 
 TEST_F(ExplorerBarTest, AClickNeedsPressAndReleaseOnTheSameItem) {
@@ -390,6 +424,12 @@ TEST_F(ExplorerBarTest, AHintIsShownAboveTheItem) {
 TEST_F(ExplorerBarTest, TheEntranceUnfoldsInTenSteps) {
     Fill(2, 4);
     Bar().SetAnimate(true);
+    int unfolding = 0;
+    const TFFPaintEvent painter = Box().OnFFPaint;
+    Box().OnFFPaint = [&](TObject* sender, TBitmap* buffer) {
+        unfolding += Box().GetDeformed();
+        painter(sender, buffer);
+    };
     Bar().ShowAnimate();
     EXPECT_TRUE(Box().GetDeformed());
     // A tenth of the height, a hundredth of the colour.
@@ -398,7 +438,34 @@ TEST_F(ExplorerBarTest, TheEntranceUnfoldsInTenSteps) {
     for (int y = height; y < shown.Height(); ++y)
         EXPECT_EQ(shown.At(100, y), COLORREF{clWhite});
     EXPECT_TRUE(PumpUntil([&] { return !Box().GetDeformed(); }));
+    Box().OnFFPaint = painter;
+    EXPECT_EQ(unfolding, 9) << "and with the tenth step the bar as it is";
     EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
+}
+
+TEST_F(ExplorerBarTest, TheEntranceFadesWithTheSquareOfItsHeight) {
+    Fill(1, 0);
+    Bar().BeginUpdate();
+    AddTo(0, new TQV7SkinExplorerItemProgressBar(0, 1, 1, 240, clBlack, clBlack));
+    Bar().EndUpdate();
+    Bar().SetAnimate(true);
+    Bar().NeedsMeasure = true;
+    Bar().ShowAnimate();
+    EXPECT_FALSE(Bar().NeedsMeasure);
+    const auto darkest = [&] {
+        const test::Pixels shown = test::ReadClient(Box().GetHandle());
+        int least = 255;
+        for (int y = 0; y < shown.Height(); ++y)
+            least = std::min<int>(least, GetRValue(shown.At(100, y)));
+        return least;
+    };
+    EXPECT_NEAR(darkest(), 255 * (1 - 0.1 * 0.1), 1);
+    const test::Pixels first = test::ReadClient(Box().GetHandle());
+    EXPECT_TRUE(PumpUntil([&] { return !Box().GetDeformed(); }));
+    EXPECT_EQ(darkest(), 0);
+    Bar().ShowAnimate();
+    EXPECT_TRUE(SamePixels(test::ReadClient(Box().GetHandle()), first)) << "again from the start";
+    EXPECT_TRUE(PumpUntil([&] { return !Box().GetDeformed(); }));
 }
 
 TEST_F(ExplorerBarTest, WithoutAnimationThereIsNoEntrance) {
