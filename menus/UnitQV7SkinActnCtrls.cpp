@@ -110,7 +110,6 @@ void TMainMenuReplacement::UpdateActionMainMenuBar(TMainMenu* AMainMenu) {
     // What hears of the end of the loop may free anything.
     FActionMainMenuBar->CloseMenu();
     if (!guard.IsAlive() || !CanWork() || !entryGuard.IsAlive() || !menuGuard.IsAlive()) return;
-    FEmptied.clear();
     entry.GetItems().Clear();
     entry.SetActionBar(nullptr);
     LoadMenu(*FActionManager, entry.GetItems(), AMainMenu->GetItems(), true);
@@ -205,10 +204,9 @@ void TMainMenuReplacement::BuildSubMenu(TCustomActionControl& Control) {
     if (!CanWork() || !client || !client->HasItems()) return;
     if (MenuItemOf(client->GetItems().GetItem(0))) return;
     TMenuItem* item = MenuItemOf(client);
-    if (!item) return;
     const TLifeGuard guard(*this);
     const TLifeGuard clientGuard(*client);
-    item->OnClick(item);
+    if (item) item->OnClick(item);
     // The handler may have freed the item or the replacement, or torn the bar down.
     if (!guard.IsAlive() || !CanWork() || !clientGuard.IsAlive()) return;
     item = MenuItemOf(client);

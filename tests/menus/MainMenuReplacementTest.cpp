@@ -14,10 +14,12 @@ using Names = std::vector<std::wstring>;
 class MainMenuReplacementTest : public ReplacementTest {};
 
 TEST_F(MainMenuReplacementTest, TheBarMirrorsTheTopmostItems) {
+    Bar->SetSpacing(9);
     Replace();
     EXPECT_EQ(Captions(*Bar), (Names{L"&File", L"&Edit"}));
     EXPECT_EQ(Bar->GetVertMargin(), 2);
     EXPECT_EQ(Bar->GetHorzMargin(), 6);
+    EXPECT_EQ(Bar->GetSpacing(), 0);
     EXPECT_FALSE(Clients().GetAutoHotKeys());
     TActionClientItem* file = Clients().GetItem(0);
     EXPECT_EQ(MenuItemOf(file), File);
@@ -25,6 +27,10 @@ TEST_F(MainMenuReplacementTest, TheBarMirrorsTheTopmostItems) {
     EXPECT_EQ(MenuItemOf(file->GetItems().GetItem(0)), nullptr);
     EXPECT_TRUE(Replacement->Actions().empty());
     EXPECT_EQ(Manager->GetActionCount(), 0);
+    SetMenuItemOf(*file, nullptr);
+    EXPECT_EQ(MenuItemOf(file), nullptr);
+    EXPECT_EQ(file->GetTag(), 0);
+    EXPECT_EQ(MenuItemOf(nullptr), nullptr);
 }
 
 TEST_F(MainMenuReplacementTest, TheControlsAreThoseOfTheSkin) {

@@ -120,6 +120,17 @@ TEST_F(MenuGradientTest, OnAShiftedSurfaceItMovesAndOnAScaledOneItGrows) {
     EXPECT_EQ(scaled.At(10, 40), COLORREF{clWhite});
 }
 
+TEST_F(MenuGradientTest, TheBrushOfTheSurfaceStaysAsItWas) {
+    for (const TPixelFormat format : {pf16bit, pf24bit}) {
+        TBitmap bitmap(20, 60, format);
+        const HDC dc = bitmap.GetCanvas().GetHandle();
+        SetDCBrushColor(dc, 0x00123456);
+        for (const int height : {20, 60})
+            DrawGradientBands(dc, {0, 0, 20, height}, 256, Top, Bottom, gdVertical);
+        EXPECT_EQ(GetDCBrushColor(dc), 0x00123456U);
+    }
+}
+
 TEST_F(MenuGradientTest, WithFewColoursEachBandHasTheNearestOne) {
     const Pixels shown = OnSurface(pf16bit, {9, 30}, {0, 0, 9, 30}, Top, Bottom);
     for (int y = 0; y < 30; ++y) {

@@ -61,6 +61,12 @@ private:
     HDC FDC;
 };
 
+/// What was installed before any test began.
+const bool NiceAtLoad = [] {
+    const auto* painter = dynamic_cast<TQV7SkinMenuItemPainterNice*>(QV7SkinMenuItemPainter());
+    return painter && painter->GetActive() && painter->GetDescriptionFont().GetSize() == 7;
+}();
+
 class MenuItemPainterTest : public PainterTest {
 protected:
     /// The picture that the reference draws.
@@ -377,6 +383,27 @@ TEST_F(MenuItemPainterTest, TheArrowOfASubmenuIsDrawnOnDemand) {
     // 4 x 7 pixels at (142, 21): the picture is cut at (27, 10).
     EXPECT_EQ(place(false, clBlack), TRect(115, 11, 119, 18));
     EXPECT_EQ(place(true, clWhite), TRect(115, 11, 119, 18));
+    item->SetEnabled(false);
+    EXPECT_EQ(place(false, clBlack), TRect(115, 11, 119, 18));
+    EXPECT_EQ(place(true, clWhite), TRect(115, 11, 119, 18));
+}
+
+TEST_F(MenuItemPainterTest, TextsAreBlackInFontsOfAnyColour) {
+    TMenuItem* item = AddItem(L"Caption", L"Description");
+    item->SetShortCut(VK_F5);
+    TMenuItem* line = AddItem(L"-", L"Heading");
+    const TRect rect{0, 0, 150, 40};
+    const auto all = [&] {
+        return std::vector{Draw(*item, rect), Draw(*line, rect), DrawOn([&](TCanvas& canvas) {
+                               Painter->DrawMainMenuRootItem(L"File", canvas, rect, false, true);
+                           })};
+    };
+    const std::vector<Pixels> black = all();
+    Painter->GetTitleFont().SetColor(clRed);
+    Painter->GetDescriptionFont().SetColor(clRed);
+    const std::vector<Pixels> red = all();
+    for (std::size_t i = 0; i < black.size(); ++i)
+        EXPECT_TRUE(SamePixels(red[i], black[i])) << i;
 }
 
 TEST_F(MenuItemPainterTest, ACaptionInABarIsCentredAndNeverBold) {
@@ -439,7 +466,7 @@ TEST_F(MenuItemPainterTest, ANewPainterHasAllParts) {
     EXPECT_TRUE(Painter->GetActive());
     EXPECT_EQ(Painter->GetDrawingParts(),
               (TQV7SkinMenuItemPainterParts{mipSeparatorText, mipDescription, mipShortCut, mipGutter}));
-    EXPECT_TRUE(dynamic_cast<TQV7SkinMenuItemPainterNice*>(QV7SkinMenuItemPainter()));
+    EXPECT_TRUE(NiceAtLoad);
 }
 
 }  // namespace

@@ -156,6 +156,11 @@ TEST_F(MirroredMenuTest, HiddenItemsStayHidden) {
     Input.Chord({VK_MENU}, 'F');
     // The separator above has nothing to separate any more.
     EXPECT_EQ(Captions(OpenMenu()), Names{L"&Open"});
+    const TActionClients& items = Clients().GetItem(0)->GetItems();
+    for (const int hidden : {1, 2}) {
+        EXPECT_FALSE(items.GetItem(hidden)->GetVisible());
+        EXPECT_FALSE(dynamic_cast<const TABMenuAction&>(*items.GetItem(hidden)->GetAction()).GetVisible());
+    }
     Bar->CloseMenu();
 }
 
@@ -254,6 +259,26 @@ TEST_P(MirroredLookTest, CaptionsInTheBarAreDrawnByThePainter) {
         EXPECT_TRUE(SamePixels(shown.Part(place), drawn)) << i;
     }
     Bar->CloseMenu();
+}
+
+TEST_P(MirroredLookTest, ACaptionWithADisabledActionIsPale) {
+    TAction action(nullptr);
+    action.SetCaption(L"&Edit");
+    action.SetEnabled(false);
+    Edit->SetAction(&action);
+    Replace();
+    Input.KeyPress(VK_F10);
+    for (const bool isSelected : {false, true}) {
+        const Pixels shown = ReadClient(Bar->WindowHandle());
+        const Pixels caption = shown.Part(Bar->ActionControls()[1]->GetBoundsRect());
+        EXPECT_EQ(Bar->ActionControls()[1]->GetSelected(), isSelected);
+        EXPECT_GT(caption.Count(0x00DEC5D8), 5);
+        EXPECT_EQ(caption.Count(clBlack), 0);
+        EXPECT_EQ(caption.At(0, 5), ColorToRGB(Bar->GetColor()));
+        Input.KeyPress(VK_RIGHT);
+    }
+    Bar->CloseMenu();
+    Edit->SetAction(nullptr);
 }
 
 TEST_P(MirroredLookTest, WithoutAPainterTheControlsLookAsThoseOfTheFramework) {

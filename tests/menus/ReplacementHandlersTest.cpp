@@ -149,6 +149,17 @@ TEST_F(ReplacementHandlersTest, TheItemThatIsAskedForMayGo) {
     EXPECT_TRUE(Replacement->Actions().empty());
 }
 
+TEST_F(ReplacementHandlersTest, UninitialisedWhenItAsksItReadsNoMore) {
+    Replace();
+    Replacement->OnIsItemEnabled = [this](TObject*, TMenuItem*, const GUID&, bool&) {
+        Replacement->Uninitialize();
+    };
+    Input.Chord({VK_MENU}, 'F');
+    EXPECT_EQ(FileClients().GetCount(), 1);
+    Bar->CloseMenu();
+    EXPECT_EQ(FileClients().GetCount(), 1);
+}
+
 TEST_F(ReplacementHandlersTest, TheWholeMenuMayGoWhenItAsks) {
     const FreedMemory guard;
     Replace();
@@ -204,6 +215,20 @@ TEST_F(ReplacementHandlersTest, TheReplacementMayGoWhenTheBarIsFilledAnew) {
 }
 
 // --- submenus that come and go
+
+TEST_F(ReplacementHandlersTest, NothingOpensForItemsThatAreGone) {
+    Replace();
+    Input.Chord({VK_MENU}, 'E');
+    delete More;
+    Input.KeyPress('M');
+    EXPECT_EQ(Levels(), 1U);
+    Bar->CloseMenu();
+    delete Menu;
+    Input.Chord({VK_MENU}, 'F');
+    EXPECT_EQ(Levels(), 0U);
+    Bar->CloseMenu();
+    EXPECT_FALSE(Clients().GetItem(0)->HasItems());
+}
 
 TEST_F(ReplacementHandlersTest, ASubmenuThatWasEmptyOnceOpensAgain) {
     bool isEmpty = true;

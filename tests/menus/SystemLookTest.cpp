@@ -99,6 +99,9 @@ TEST_F(SystemLookTest, HandlersOfTheHostStayWhenThePainterGoes) {
     EXPECT_GT(drawn, 0);
     EXPECT_FALSE(Skin->GetItems().GetItem(1)->OnDrawItem);
     EXPECT_FALSE(Skin->GetItems().GetItem(1)->OnMeasureItem);
+    const TMenuItem* inside = Skin->GetItems().GetItem(3)->GetItem(0);
+    EXPECT_FALSE(inside->OnDrawItem);
+    EXPECT_FALSE(inside->OnMeasureItem);
     // Items that come now are the system's.
     EXPECT_FALSE(Add(Skin->GetItems(), L"&Late")->OnDrawItem);
 }
