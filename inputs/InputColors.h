@@ -7,7 +7,7 @@ namespace qv7skin {
 
 /// What framed inputs have in common.
 inline constexpr int InputRounding = 4;
-/// No input is lower than this, in pixels.
+/// The least height of an input that has its inner control, in pixels.
 inline constexpr int InputMinHeight = 25;
 
 inline constexpr TColor InputGround = 0x00FFFFFF;

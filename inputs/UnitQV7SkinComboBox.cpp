@@ -1,9 +1,11 @@
 #include "inputs/UnitQV7SkinComboBox.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "inputs/DropButton.h"
 #include "inputs/InputColors.h"
+#include "inputs/InputNumbers.h"
 #include "platform/tms/CurvyRows.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Canvas.h"
@@ -18,6 +20,14 @@ constexpr int InsetOfList = 2;
 /// Where the inner control stands out of sight while it is being set up.
 constexpr int OutOfSight = -200;
 constexpr int SkinDropDownCount = 14;
+
+/// A number as text: at most 15 digits, and an exponent without leading zeros for what is very large or small.
+String NumberText(double value) {
+    String text = UpperCase(Format(L"%.15g", value));
+    const std::size_t exponent = text.find(L'E');
+    if (exponent == String::npos || !std::isfinite(value)) return text;
+    return text.substr(0, exponent + 1) + IntToStr(StrToIntDef(text.substr(exponent + 1), 0));
+}
 
 }  // namespace
 
@@ -106,6 +116,12 @@ void TCustomQV7SkinComboBox::CreateComboBox() {
     inner->OnKeyPress = {this, &TCustomQV7SkinComboBox::DoKeyPress};
     FComboBox = inner;
     AdjustComboBoxTopForCurrentStyle();
+}
+
+void TCustomQV7SkinComboBox::ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth,
+                                               int& maxHeight) {
+    TCurvyPanel::ConstrainedResize(minWidth, minHeight, maxWidth, maxHeight);
+    if (FComboBox) minHeight = std::max(minHeight, InputMinHeight);
 }
 
 void TCustomQV7SkinComboBox::AdjustComboBoxTopForCurrentStyle() {
@@ -203,7 +219,7 @@ int TCustomQV7SkinComboBox::IndexOfText(const String& text) const {
 }
 
 void TCustomQV7SkinComboBox::SetValue(double Value) {
-    const String text = Format(L"%.15g", Value);
+    const String text = NumberText(Value);
     SetItemIndex(IndexOfText(text));
     if (GetItemIndex() == -1) SetText(text);
 }
@@ -213,7 +229,7 @@ void TCustomQV7SkinComboBox::SetNearestIndexForValue(int Value, int DefaultIndex
     if (GetItemIndex() > -1) return;
     const TStrings& items = GetItems();
     for (int i = items.GetCount() - 1; i >= 0; --i)
-        if (StrToIntDef(items.Get(i), 0) <= Value) return SetItemIndex(i);
+        if (IntegerOfText(items.Get(i)) <= Value) return SetItemIndex(i);
     SetItemIndex(DefaultIndex);
 }
 

@@ -75,6 +75,7 @@ public:
 
 protected:
     void Loaded() override;
+    void ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth, int& maxHeight) override;
     [[nodiscard]] String GetTextBuf() const override;
     void SetTextBuf(const String& value) override;
 

@@ -20,6 +20,18 @@ bool IsDropKey(WORD key, TShiftState shift) {
     return (key == VK_F4 && !alt) || ((key == VK_DOWN || key == VK_UP) && alt);
 }
 
+/// Does the last step also after an error of the first one, as long as there is the guarded control.
+template <class First, class Last>
+void InAnyCase(const TLifeGuard& guard, const First& first, const Last& last) {
+    try {
+        first();
+    } catch (...) {
+        if (guard.IsAlive()) last();
+        throw;
+    }
+    if (guard.IsAlive()) last();
+}
+
 }  // namespace
 
 const TMetaClass& TCustomQV7SkinComboBoxCustomDropDown::StaticClass() {
@@ -151,7 +163,8 @@ bool TCustomQV7SkinComboBoxCustomDropDown::GetDrawButtonLine() const {
 void TCustomQV7SkinComboBoxCustomDropDown::SetDrawButtonLine(bool Value) {
     if (Value == GetDrawButtonLine()) return;
     FDrawButtonLine = Value;
-    RepaintParts();
+    if (FButton) FButton->Repaint();
+    Invalidate();
 }
 
 // --- the form
@@ -211,8 +224,11 @@ void TCustomQV7SkinComboBoxCustomDropDown::SetDroppedDown(bool Value) {
             throw;
         }
     } else {
-        OnCloseUp(this);
-        if (guard.IsAlive() && FDropDownForm) ::PostMessageW(FDropDownForm->GetHandle(), WM_CLOSE, 0, 0);
+        InAnyCase(
+            guard, [this] { OnCloseUp(this); },
+            [this] {
+                if (FDropDownForm) ::PostMessageW(FDropDownForm->GetHandle(), WM_CLOSE, 0, 0);
+            });
     }
 }
 
@@ -225,9 +241,13 @@ bool TCustomQV7SkinComboBoxCustomDropDown::IsMouseOnSelf() const {
 void TCustomQV7SkinComboBoxCustomDropDown::DoDropDownFormClose(TObject*, TCloseAction&) {
     const TLifeGuard guard(*this);
     FCloseClickedOnSelf = IsMouseOnSelf();
-    if (std::exchange(FDroppedDown, false)) OnCloseUp(this);
-    if (guard.IsAlive()) DropDownClosed();
-    if (guard.IsAlive()) RepaintParts();
+    InAnyCase(
+        guard,
+        [&] {
+            if (std::exchange(FDroppedDown, false)) OnCloseUp(this);
+            if (guard.IsAlive()) DropDownClosed();
+        },
+        [this] { RepaintParts(); });
 }
 
 void TCustomQV7SkinComboBoxCustomDropDown::DoDropDownFormInclude(TObject*) {

@@ -34,7 +34,7 @@ public:
     /// The popup; not owned, null for none. The control takes its `OnClose` and its include and exclude
     /// events.
     [[nodiscard]] TQV7SkinPopupForm* GetDropDownForm() const { return FDropDownForm; }
-    virtual void SetDropDownForm(TQV7SkinPopupForm* Value);
+    void SetDropDownForm(TQV7SkinPopupForm* Value);
     /// Whether the popup counts as open. Closing happens with the next message.
     [[nodiscard]] bool GetDroppedDown() const { return FDroppedDown; }
     void SetDroppedDown(bool Value);

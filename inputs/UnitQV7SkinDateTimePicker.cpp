@@ -79,7 +79,10 @@ const TMetaClass& TCustomQV7SkinDateTimePicker::StaticClass() {
 }
 
 TCustomQV7SkinDateTimePicker::TCustomQV7SkinDateTimePicker(TComponent* AOwner)
-    : TCustomQV7SkinComboBoxCustomDropDown(AOwner) {}
+    : TCustomQV7SkinComboBoxCustomDropDown(AOwner) {
+    // A name is no date.
+    ControlStyle.Exclude(csSetCaption);
+}
 
 TCustomQV7SkinDateTimePicker::~TCustomQV7SkinDateTimePicker() {
     // The form must not tell a picker that is half gone.
@@ -197,7 +200,9 @@ void TCustomQV7SkinDateTimePicker::DoButtonMouseUp(TObject*, TMouseButton, TShif
 }
 
 void TCustomQV7SkinDateTimePicker::PrepareDropDown() {
+    const TLifeGuard guard(*this);
     if (FTextChanged) ReadDateFromInput();
+    if (!guard.IsAlive() || !FForm) return;
     // The calendar lies above the form on which the picker stands.
     auto* form = dynamic_cast<TCustomForm*>(GetParentForm(this));
     if (FForm->GetAttachedTo() != form) FForm->SetAttachedTo(form);

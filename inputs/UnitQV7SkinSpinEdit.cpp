@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "inputs/InputColors.h"
+#include "inputs/InputNumbers.h"
 #include "platform/tms/CurvyRows.h"
 
 namespace qv7skin {
@@ -28,6 +29,8 @@ const TMetaClass& TCustomQV7SkinSpinEdit::StaticClass() {
 TCustomQV7SkinSpinEdit::TCustomQV7SkinSpinEdit(TComponent* AOwner) : TCurvyPanel(AOwner) {
     SetRounding(InputRounding);
     ControlStyle.Exclude(csAcceptsControls);
+    // A name is no number.
+    ControlStyle.Exclude(csSetCaption);
 }
 
 TCustomQV7SkinSpinEdit::~TCustomQV7SkinSpinEdit() {
@@ -62,7 +65,7 @@ void TCustomQV7SkinSpinEdit::CreateEdit() {
 }
 
 int TCustomQV7SkinSpinEdit::GetValue() const {
-    return FEdit ? FEdit->GetValue() : static_cast<int>(StrToIntDef(GetCaption(), 0));
+    return FEdit ? FEdit->GetValue() : IntegerOfText(GetCaption());
 }
 
 void TCustomQV7SkinSpinEdit::SetValue(int Value) {
@@ -70,6 +73,27 @@ void TCustomQV7SkinSpinEdit::SetValue(int Value) {
         FEdit->SetValue(Value);
     else
         SetCaption(IntToStr(Value));
+}
+
+void TCustomQV7SkinSpinEdit::SetMinValue(int Value) {
+    FMinValue = Value;
+    if (FEdit) FEdit->SetMinValue(Value);
+}
+
+void TCustomQV7SkinSpinEdit::SetMaxValue(int Value) {
+    FMaxValue = Value;
+    if (FEdit) FEdit->SetMaxValue(Value);
+}
+
+void TCustomQV7SkinSpinEdit::SetIncrement(int Value) {
+    FIncrement = Value;
+    if (FEdit) FEdit->SetIncrement(Value);
+}
+
+void TCustomQV7SkinSpinEdit::ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth,
+                                               int& maxHeight) {
+    TCurvyPanel::ConstrainedResize(minWidth, minHeight, maxWidth, maxHeight);
+    if (FEdit) minHeight = std::max(minHeight, InputMinHeight);
 }
 
 void TCustomQV7SkinSpinEdit::SelectAll() {

@@ -22,13 +22,13 @@ public:
     /// Without an inner control the number that the caption is, or 0.
     [[nodiscard]] int GetValue() const;
     void SetValue(int Value);
-    /// What the inner control gets when it is made: the range (equal bounds: none) and the size of a step.
+    /// The range (equal bounds: none) and the size of a step, kept here and handed to the inner control.
     [[nodiscard]] int GetMinValue() const { return FMinValue; }
-    void SetMinValue(int Value) { FMinValue = Value; }
+    void SetMinValue(int Value);
     [[nodiscard]] int GetMaxValue() const { return FMaxValue; }
-    void SetMaxValue(int Value) { FMaxValue = Value; }
+    void SetMaxValue(int Value);
     [[nodiscard]] int GetIncrement() const { return FIncrement; }
-    void SetIncrement(int Value) { FIncrement = Value; }
+    void SetIncrement(int Value);
     /// The control of the frame; null before it is made.
     [[nodiscard]] TFlatSpinEditInteger* GetEdit() const { return FEdit; }
 
@@ -45,6 +45,7 @@ public:
 
 protected:
     void Loaded() override;
+    void ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth, int& maxHeight) override;
 
 private:
     TFlatSpinEditInteger* FEdit = nullptr;

@@ -4,6 +4,8 @@
 #include "platform/vcl/controls/ControlCanvas.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/graphics/Canvas.h"
+#include "platform/vcl/graphics/DeviceContexts.h"
+#include "platform/vcl/graphics/Font.h"
 
 namespace flatstyle {
 namespace {
@@ -102,9 +104,16 @@ void TFlatComboBox::CreateWnd() {
     PlaceEditor();
 }
 
+void TFlatComboBox::DestroyWnd() {
+    // The list goes without telling.
+    FShownOpen = false;
+    TCustomComboBox::DestroyWnd();
+}
+
 /// Gives the editor the room up to our button.
 void TFlatComboBox::PlaceEditor() {
     if (!EditHandle() || GetStyle() != csDropDown) return;
+    ::SendMessageW(EditHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
     const int height = GetClientHeight() - 2 * TextMargin;
     ::SetWindowPos(EditHandle(), nullptr, TextMargin, TextMargin,
                    GetClientWidth() - TextMargin - FButtonWidth - 1, height > 0 ? height : 0,
@@ -153,12 +162,15 @@ void TFlatComboBox::PaintButton() {
 }
 
 void TFlatComboBox::PaintWindow(HDC dc) {
+    const TLifeGuard guard(*this);
+    // The canvas may go with the control, when that is freed by the handler that draws the entry.
+    const TSaveDC state(dc);
     const TCanvasBinding binding(*FCanvas, *this, dc);
-    const TCanvasStateScope state(*FCanvas);
     PaintButton();
     TRect area = GetClientRect();
     area.Right = GetButtonRect().Left;
-    PaintEntry(FCanvas->GetHandle(), area);
+    PaintEntry(dc, area);
+    if (!guard.IsAlive()) return;
     FCanvas->GetBrush().SetStyle(bsSolid);
     FCanvas->GetBrush().SetColor(GetColors(BorderColorIndex));
     FCanvas->FrameRect(GetClientRect());
@@ -173,16 +185,19 @@ void TFlatComboBox::PaintEntry(HDC dc, const TRect& area) {
     TRect entry = area;
     entry.Inflate(-TextMargin + 1, -TextMargin + 1);
     const bool chosen = Focused() && !FShownOpen;
-    const int index = GetItemIndex();
     if (GetStyle() != csDropDownList) {
         DRAWITEMSTRUCT item{};
         item.CtlType = ODT_COMBOBOX;
-        item.itemID = static_cast<UINT>(index);
-        item.itemState = ODS_COMBOBOXEDIT | (chosen ? ODS_SELECTED : 0U);
+        item.itemID = static_cast<UINT>(GetItemIndex());
+        item.itemAction = ODA_DRAWENTIRE;
+        item.itemState = ODS_COMBOBOXEDIT | (chosen ? ODS_SELECTED : 0U) | (GetEnabled() ? 0U : ODS_DISABLED);
         item.hwndItem = WindowHandle();
         item.hDC = dc;
         item.rcItem = entry;
         FCanvas->Refresh();
+        // The handler gets the context as that of the list, and may leave it as it likes.
+        const TSaveDC state(dc);
+        ::SelectObject(dc, GetFont().GetHandle());
         return DrawItem(item);
     }
     if (chosen) {

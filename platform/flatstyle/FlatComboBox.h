@@ -44,6 +44,7 @@ protected:
     void Dispatch(TMessage& message) override;
     void CreateParams(TCreateParams& params) override;
     void CreateWnd() override;
+    void DestroyWnd() override;
     void PaintWindow(HDC dc) override;
     void DropDown() override;
     void CloseUp() override;

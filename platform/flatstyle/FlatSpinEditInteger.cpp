@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "platform/vcl/controls/InnerEditor.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/graphics/DeviceContexts.h"
 
@@ -130,20 +131,42 @@ void TFlatSpinEditInteger::DestroyWnd() {
     TCustomEdit::DestroyWnd();
 }
 
+/// The system's editor writes at the upper edge of its client area, so that one begins where the text is to
+/// stand: the pixels above it.
+int TFlatSpinEditInteger::TextTop(int height) const {
+    return std::max((height - EditorLineHeight(GetFont())) / 2, 0);
+}
+
+TRect TFlatSpinEditInteger::GetFrameInsets() const {
+    TRect insets = TCustomEdit::GetFrameInsets();
+    insets.Top += TextTop(GetHeight());
+    return insets;
+}
+
+void TFlatSpinEditInteger::PlaceText(RECT& area) const {
+    area.top += TextTop(static_cast<int>(area.bottom - area.top));
+}
+
+/// Beside the text, inside the line.
 void TFlatSpinEditInteger::PlaceButtons() {
     TRect area = GetClientRect();
-    area.Inflate(-Border, -Border);
-    area.Left = std::max(area.Right - ButtonWidth, area.Left);
+    area.Right -= Border;
+    area.Left = std::max(area.Right - ButtonWidth, Border);
+    area.Top = std::max(Border - TextTop(GetHeight()), 0);
+    area.Bottom -= 2 * Border;
     FButtons.Place(area);
 }
 
-/// The line around the text, over what the system painted.
+/// The line around the text, over what the system painted, and the ground above the text.
 void TFlatSpinEditInteger::PaintBorder() {
     if (!HandleAllocated()) return;
-    const TWindowDC dc(WindowHandle());
-    const TBrushHandle brush(::CreateSolidBrush(ColorToRGB(GetColors(BorderColorIndex))));
-    const RECT client = GetClientRect();
-    ::FrameRect(dc.Get(), &client, brush.Get());
+    const TWindowDC dc = TWindowDC::OfWholeWindow(WindowHandle());
+    const TBrushHandle ground(::CreateSolidBrush(ColorToRGB(GetColor())));
+    const TBrushHandle line(::CreateSolidBrush(ColorToRGB(GetColors(BorderColorIndex))));
+    const RECT above{0, 0, GetWidth(), TextTop(GetHeight())};
+    ::FillRect(dc.Get(), &above, ground.Get());
+    const RECT window{0, 0, GetWidth(), GetHeight()};
+    ::FrameRect(dc.Get(), &window, line.Get());
 }
 
 bool TFlatSpinEditInteger::IsButtonMessage(const TMessage& message) const {
@@ -164,8 +187,20 @@ void TFlatSpinEditInteger::Dispatch(TMessage& message) {
         case WM_VSCROLL:
             return;
         case WM_PAINT:
+        case WM_NCPAINT:
             TCustomEdit::Dispatch(message);
             if (guard.IsAlive()) PaintBorder();
+            return;
+        case WM_NCCALCSIZE:
+            TCustomEdit::Dispatch(message);
+            return PlaceText(*message.As<RECT>());
+        case WM_NCHITTEST:
+            TCustomEdit::Dispatch(message);
+            if (message.Result == HTNOWHERE) message.Result = HTCLIENT;
+            return;
+        case CM_FONTCHANGED:
+            TCustomEdit::Dispatch(message);
+            if (guard.IsAlive()) Perform(CM_BORDERCHANGED);
             return;
         case WM_SIZE:
             TCustomEdit::Dispatch(message);

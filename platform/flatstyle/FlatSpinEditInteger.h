@@ -7,7 +7,8 @@
 namespace flatstyle {
 
 /// An editor of the system for whole numbers, with the system's spin buttons inside. Buttons, up and down
-/// keys and the wheel step by `Increment`; leaving the editor brings the number into its range.
+/// keys and the wheel step by `Increment`; leaving the editor brings the number into its range. The number
+/// stands in the middle of the height.
 ///
 /// Colours by index: 0 the ground while the focus is in the editor (white at first), 1 the line around it
 /// (0x008396A0), 2 the ground otherwise (0x00E1EAEB).
@@ -51,6 +52,7 @@ protected:
     void CreateParams(TCreateParams& params) override;
     void CreateWnd() override;
     void DestroyWnd() override;
+    [[nodiscard]] TRect GetFrameInsets() const override;
     void KeyDown(WORD& key, TShiftState shift) override;
     void KeyPress(wchar_t& key) override;
     bool DoMouseWheelUp(TShiftState shift, TPoint mousePos) override;
@@ -64,6 +66,8 @@ private:
     void PlaceButtons();
     void ShowGround();
     void PaintBorder();
+    void PlaceText(RECT& area) const;
+    [[nodiscard]] int TextTop(int height) const;
     [[nodiscard]] bool IsButtonMessage(const TMessage& message) const;
 
     TFlatColors<3> FColors{{clWhite, 0x008396A0, 0x00E1EAEB}};

@@ -10,8 +10,20 @@
 namespace tms {
 namespace {
 
-/// Pixels between the frame and the text.
-constexpr int TextMargin = 5;
+/// Pixels between the edge and the text.
+constexpr int TextMargin = 6;
+
+/// The editor inside, without room of its own beside the text.
+class TBareEdit final : public TEdit {
+public:
+    using TEdit::TEdit;
+
+protected:
+    void CreateWnd() override {
+        TEdit::CreateWnd();
+        ::SendMessageW(WindowHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    }
+};
 
 }  // namespace
 
@@ -38,7 +50,7 @@ const TMetaClass& TCurvyEdit::StaticClass() {
     return meta;
 }
 
-TCurvyEdit::TCurvyEdit(TComponent* AOwner) : TCurvyControl(AOwner), FEdit(new TEdit(nullptr)) {
+TCurvyEdit::TCurvyEdit(TComponent* AOwner) : TCurvyControl(AOwner), FEdit(new TBareEdit(nullptr)) {
     ControlStyle = ControlStyle + TControlStyle{csSetCaption, csCaptureMouse, csClickEvents, csDoubleClicks};
     SetBounds(0, 0, 121, 25);
     SetTabStop(true);
@@ -123,8 +135,7 @@ void TCurvyEdit::LookChanged() {
 
 /// In the middle of the height, with room for the round ends.
 void TCurvyEdit::PlaceEdit() {
-    const int line = -GetFont().GetHeight() > 0 ? -GetFont().GetHeight() * 5 / 4 : GetFont().GetHeight();
-    const int height = std::min(std::max(line, 1), std::max(GetHeight() - 4, 1));
+    const int height = std::min(EditorLineHeight(GetFont()), std::max(GetHeight() - 4, 1));
     FEdit->SetBounds(TextMargin, (GetHeight() - height) / 2, std::max(GetWidth() - 2 * TextMargin, 0),
                      height);
 }

@@ -487,9 +487,7 @@ TRect TOwnAdvTreeComboBoxEx::GetButtonRect() const {
 
 /// In the middle of the height, up to the button.
 void TOwnAdvTreeComboBoxEx::PlaceEditor() {
-    const int size = GetFont().GetHeight();
-    const int line = size < 0 ? -size * 5 / 4 : size;
-    const int height = std::clamp(line, 1, std::max(GetHeight() - 2, 1));
+    const int height = std::min(EditorLineHeight(GetFont()), std::max(GetHeight() - 2, 1));
     FEdit->SetBounds(TextMargin, (GetHeight() - height) / 2,
                      std::max(GetWidth() - TextMargin - FButtonWidth - 1, 0), height);
 }

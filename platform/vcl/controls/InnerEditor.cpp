@@ -1,6 +1,9 @@
 #include "platform/vcl/controls/InnerEditor.h"
 
+#include <algorithm>
+
 #include "platform/vcl/controls/ParentForm.h"
+#include "platform/vcl/graphics/Font.h"
 
 namespace vcl {
 
@@ -11,6 +14,11 @@ bool TakeTabBack(TWinControl& outer, const TMessage& message) {
         return false;
     form->FormControl().SelectNext(&outer, false, true);
     return true;
+}
+
+int EditorLineHeight(const TFont& font) {
+    const int size = font.GetHeight();
+    return std::max(size < 0 ? -size * 5 / 4 : size, 1);
 }
 
 }  // namespace vcl

@@ -11,4 +11,7 @@ namespace vcl {
 /// True when it did; handlers of the focus may have freed `outer` then.
 [[nodiscard]] bool TakeTabBack(TWinControl& outer, const TMessage& message);
 
+/// Pixels that a line of text in the font takes, reckoned from the size of the font.
+[[nodiscard]] int EditorLineHeight(const TFont& font);
+
 }  // namespace vcl

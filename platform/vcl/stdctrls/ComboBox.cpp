@@ -10,6 +10,7 @@
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/graphics/Font.h"
 #include "platform/vcl/stdctrls/ComboBoxItems.h"
 
 namespace vcl {
@@ -340,11 +341,14 @@ void TCustomComboBox::DrawItem(const DRAWITEMSTRUCT& item) {
     const int index = item.itemID == static_cast<UINT>(-1) ? -1 : static_cast<int>(item.itemID);
     if (OnDrawItem) return OnDrawItem(this, index, item.rcItem, item.itemState, item.hDC);
     const bool selected = (item.itemState & ODS_SELECTED) != 0;
-    ::SetTextColor(item.hDC, ::GetSysColor(selected ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    ::SetBkColor(item.hDC, ::GetSysColor(selected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+    ::SetTextColor(item.hDC, ColorToRGB(selected ? clHighlightText : GetFont().GetColor()));
+    ::SetBkColor(item.hDC, ColorToRGB(selected ? clHighlight : GetColor()));
     const String text = index >= 0 && index < FItems->GetCount() ? FItems->Get(index) : String();
-    ::ExtTextOutW(item.hDC, item.rcItem.left + 2, item.rcItem.top, ETO_OPAQUE | ETO_CLIPPED, &item.rcItem,
-                  text.c_str(), static_cast<UINT>(text.size()), nullptr);
+    ::ExtTextOutW(item.hDC, 0, 0, ETO_OPAQUE | ETO_CLIPPED, &item.rcItem, L"", 0, nullptr);
+    RECT place = item.rcItem;
+    place.left += 1;
+    ::DrawTextW(item.hDC, text.c_str(), static_cast<int>(text.size()), &place,
+                DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX);
 }
 
 }  // namespace vcl
