@@ -21,7 +21,8 @@ constexpr int InsetOfList = 2;
 constexpr int OutOfSight = -200;
 constexpr int SkinDropDownCount = 14;
 
-/// A number as text: at most 15 digits, and an exponent without leading zeros for what is very large or small.
+/// A number as text: at most 15 digits, and an exponent without leading zeros for what is very large or
+/// small.
 String NumberText(double value) {
     String text = UpperCase(Format(L"%.15g", value));
     const std::size_t exponent = text.find(L'E');
@@ -118,8 +119,7 @@ void TCustomQV7SkinComboBox::CreateComboBox() {
     AdjustComboBoxTopForCurrentStyle();
 }
 
-void TCustomQV7SkinComboBox::ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth,
-                                               int& maxHeight) {
+void TCustomQV7SkinComboBox::ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth, int& maxHeight) {
     TCurvyPanel::ConstrainedResize(minWidth, minHeight, maxWidth, maxHeight);
     if (FComboBox) minHeight = std::max(minHeight, InputMinHeight);
 }

@@ -90,8 +90,7 @@ void TCustomQV7SkinSpinEdit::SetIncrement(int Value) {
     if (FEdit) FEdit->SetIncrement(Value);
 }
 
-void TCustomQV7SkinSpinEdit::ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth,
-                                               int& maxHeight) {
+void TCustomQV7SkinSpinEdit::ConstrainedResize(int& minWidth, int& minHeight, int& maxWidth, int& maxHeight) {
     TCurvyPanel::ConstrainedResize(minWidth, minHeight, maxWidth, maxHeight);
     if (FEdit) minHeight = std::max(minHeight, InputMinHeight);
 }

@@ -174,8 +174,17 @@ bool TFlatSpinEditInteger::IsButtonMessage(const TMessage& message) const {
     return header->hwndFrom == FButtons.Handle() && header->code == static_cast<UINT>(UDN_DELTAPOS);
 }
 
+/// What the mouse does above the text counts as done at its upper edge.
+void TFlatSpinEditInteger::KeepInText(TMessage& message) const {
+    const bool isMouse = message.Msg >= WM_MOUSEFIRST && message.Msg <= WM_MBUTTONDBLCLK;
+    const auto y = static_cast<short>(HIWORD(message.LParam));
+    if (isMouse && y < 0 && y >= -TextTop(GetHeight()))
+        message.LParam = MAKELPARAM(LOWORD(message.LParam), 0);
+}
+
 void TFlatSpinEditInteger::Dispatch(TMessage& message) {
     const TLifeGuard guard(*this);
+    KeepInText(message);
     switch (message.Msg) {
         case WM_NOTIFY:
             if (!IsButtonMessage(message)) break;

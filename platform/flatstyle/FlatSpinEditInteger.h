@@ -68,6 +68,7 @@ private:
     void PaintBorder();
     void PlaceText(RECT& area) const;
     [[nodiscard]] int TextTop(int height) const;
+    void KeepInText(TMessage& message) const;
     [[nodiscard]] bool IsButtonMessage(const TMessage& message) const;
 
     TFlatColors<3> FColors{{clWhite, 0x008396A0, 0x00E1EAEB}};

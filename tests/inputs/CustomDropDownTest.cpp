@@ -1,7 +1,9 @@
 #include "inputs/UnitQV7SkinComboBoxCustomDropDown.h"
+#include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/stdctrls/Label.h"
 #include "tests/inputs/InputsTest.h"
+#include "tests/support/FreedMemory.h"
 
 namespace {
 
@@ -59,6 +61,12 @@ TEST_F(CustomDropDown, HasItsParts) {
     EXPECT_EQ(Drop().GetButton()->GetBoundsRect(), TRect::OfSize(120 - 17 - 3, 3, 17, 19));
     EXPECT_EQ(Drop().GetLabel()->GetBoundsRect(), TRect::OfSize(6, 6, 120 - 6 - 17, 13));
     EXPECT_EQ(Drop().GetLabel()->GetEllipsisPosition(), epEndEllipsis);
+    EXPECT_EQ(Drop().GetButton()->GetAnchors(), (TAnchors{akTop, akRight, akBottom}));
+    EXPECT_EQ(Drop().GetLabel()->GetAnchors(), (TAnchors{akLeft, akTop, akRight}));
+    EXPECT_EQ(Drop().GetLabel()->GetColor(), 0x00FFFFFFu);
+    EXPECT_EQ(Drop().GetLabel()->GetFont().GetColor(), 0x00000000u);
+    EXPECT_EQ(Drop().GetLabel()->GetCursor(), crDefault);
+    EXPECT_FALSE(Drop().GetLabel()->GetAutoSize());
     EXPECT_FALSE(Drop().GetDrawButtonLine());
     Drop().SetText(L"Text & mehr");
     EXPECT_EQ(Drop().GetLabel()->GetCaption(), L"Text & mehr");
@@ -126,6 +134,92 @@ TEST_F(CustomDropDown, EveryPartOpens) {
         Drop().DoButtonMouseUp(nullptr, mbLeft, {}, 0, 0);
         EXPECT_FALSE(Drop().GetDroppedDown());
     }
+}
+
+TEST_F(CustomDropDown, EveryButtonOfTheMouseOpens) {
+    Popup();
+    for (const test::MouseButton button : {test::MouseButton::Right, test::MouseButton::Middle}) {
+        Input.ClickAt(Form().GetHandle(), 50, 22, button);
+        EXPECT_TRUE(Popup().GetVisible());
+        Input.MoveAway();
+        Input.KeyPress(VK_ESCAPE);
+    }
+}
+
+TEST_F(CustomDropDown, AFormThatClosedUnderTheMouseTakesOneClick) {
+    Popup();
+    Click();
+    Input.KeyPress(VK_ESCAPE);
+    Click();
+    EXPECT_FALSE(Popup().GetVisible());
+    Click();
+    EXPECT_TRUE(Popup().GetVisible());
+    // Just outside: the next click opens.
+    Input.MoveTo(Form().GetHandle(), 10 + 120, 10 + 12);
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_FALSE(Popup().GetVisible());
+    Click();
+    EXPECT_TRUE(Popup().GetVisible());
+}
+
+TEST_F(CustomDropDown, TellsBeforeTheFormShowsAndBeforeItCloses) {
+    Popup();
+    std::vector<bool> visible;
+    Drop().OnDropDown = Drop().OnCloseUp = [&](TObject*) { visible.push_back(Popup().GetVisible()); };
+    Drop().SetDroppedDown(true);
+    Drop().SetDroppedDown(false);
+    PumpAll();
+    EXPECT_EQ(visible, (std::vector<bool>{false, true}));
+    // A form that closes while it is no drop-down tells nobody, and keeps its way to close.
+    TCloseAction action = caMinimize;
+    Drop().DoDropDownFormClose(nullptr, action);
+    EXPECT_EQ(visible.size(), 2u);
+    EXPECT_EQ(action, caMinimize);
+}
+
+TEST_F(CustomDropDown, ATextIsPaintedAtOnce) {
+    Shown(Drop());
+    Drop().SetText(L"Neu");
+    EXPECT_GT(test::ReadWindow(Drop().GetHandle()).Count(0), 20);
+}
+
+TEST_F(CustomDropDown, ANewSettingOfTheLineIsPainted) {
+    Shown(Drop());
+    Drop().SetDrawButtonLine(false);
+    EXPECT_FALSE(::GetUpdateRect(Drop().GetHandle(), nullptr, FALSE));
+    Drop().SetDrawButtonLine(true);
+    EXPECT_TRUE(::GetUpdateRect(Drop().GetHandle(), nullptr, FALSE));
+}
+
+TEST_F(CustomDropDown, AnErrorBeforeOpeningLeavesItClosed) {
+    Popup();
+    Drop().OnDropDown = [](TObject*) { throw Exception(L"nicht jetzt"); };
+    Click();
+    EXPECT_EQ(std::exchange(Errors, {}).size(), 1u);
+    EXPECT_FALSE(Drop().GetDroppedDown());
+    EXPECT_FALSE(Popup().GetVisible());
+    EXPECT_FALSE(ArrowIsUp());
+    Drop().OnDropDown.Clear();
+    Click();
+    EXPECT_TRUE(Popup().GetVisible());
+}
+
+TEST_F(CustomDropDown, AnErrorAtClosingClosesAllTheSame) {
+    Popup();
+    Drop().OnCloseUp = [](TObject*) { throw Exception(L"nicht jetzt"); };
+    Click();
+    EXPECT_TRUE(ArrowIsUp());
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_EQ(std::exchange(Errors, {}).size(), 1u);
+    EXPECT_FALSE(Drop().GetDroppedDown());
+    EXPECT_FALSE(ArrowIsUp());
+    Input.MoveAway();
+    Drop().DoButtonMouseUp(nullptr, mbLeft, {}, 0, 0);
+    Popup().Close();
+    Errors.clear();
+    Drop().SetDroppedDown(true);
+    EXPECT_THROW(Drop().SetDroppedDown(false), Exception);
+    EXPECT_TRUE(test::PumpUntil([&] { return !Popup().GetVisible(); }));
 }
 
 TEST_F(CustomDropDown, ClosesWhenAnotherFormBecomesActive) {
@@ -264,7 +358,18 @@ TEST_F(CustomDropDown, TheFormMayGoWhileItIsOpen) {
     EXPECT_FALSE(Drop().GetDroppedDown());
 }
 
+TEST_F(CustomDropDown, MayBeFreedByOpening) {
+    const test::FreedMemory freed;
+    Popup();
+    Drop().OnDropDown = [](TObject* sender) { delete static_cast<TQV7SkinComboBoxCustomDropDown*>(sender); };
+    Click();
+    EXPECT_EQ(Form().GetControlCount(), 0);
+    EXPECT_FALSE(Popup().GetVisible());
+    EXPECT_EQ(test::FreedMemory::WrittenBlocks(), 0);
+}
+
 TEST_F(CustomDropDown, MayBeFreedByItsEvents) {
+    const test::FreedMemory freed;
     Popup();
     Drop().OnCloseUp = [](TObject* sender) { delete static_cast<TQV7SkinComboBoxCustomDropDown*>(sender); };
     Click();

@@ -1,7 +1,10 @@
 #include "inputs/UnitQV7SkinDateTimePicker.h"
+#include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/stdctrls/Label.h"
+#include "skin/surfaces/Loaders.h"
 #include "tests/inputs/InputsTest.h"
 #include "tests/support/CalendarFonts.h"
+#include "tests/support/FreedMemory.h"
 
 namespace {
 
@@ -64,6 +67,8 @@ TEST_F(DateTimePicker, TheFormatFollowsTheLocale) {
     settings.ShortDayNames[3] = L"Wed";
     EXPECT_EQ(Picker().GetDateFormat(), L"ddd, mm/dd/yyyy");
     EXPECT_EQ(Picker().GetDateEditMask(), L"LLl, !99/99/0000;1;_");
+    settings.ShortDateFormat = L"TT.MM.JJJJ";
+    EXPECT_EQ(Picker().GetDateFormat(), L"ddd, mm/dd/yyyy");
     settings.ShortDateFormat = L"?";
     EXPECT_EQ(Picker().GetDateFormat(), L"ddd, mm/dd/yyyy");
     settings.ShortDateFormat = L"E.M.D";
@@ -254,13 +259,121 @@ TEST_F(DateTimePicker, AChangedTextIsReadBeforeTheCalendarOpens) {
     EXPECT_EQ(Picker().GetDate(), EncodeDate(2015, 12, 24));
 }
 
-TEST_F(DateTimePicker, TheButtonShowsItsPictureOnWhite) {
-    const test::Pixels shown = Shown(*Picker().GetButton());
-    EXPECT_EQ(shown.At(0, 0), 0x00FFFFFFu);
-    EXPECT_EQ(shown.At(32, 18), 0x00FFFFFFu);
-    const RECT picture = shown.Bounds([](COLORREF color) { return color != 0x00FFFFFF; });
-    EXPECT_GE(picture.left, (33 - 14) / 2);
-    EXPECT_LE(picture.right, (33 - 14) / 2 + 14);
+TEST_F(DateTimePicker, TheButtonShowsItsPictureInTheMiddleOfWhite) {
+    const std::unique_ptr<TBitmap> bitmap = CreateBmp(L"DATETIMEPICKERBUTTON");
+    const test::Pixels picture = test::ReadBitmap(bitmap->GetHandle());
+    EXPECT_EQ(picture.Width(), 14);
+    EXPECT_EQ(picture.Height(), 18);
+    EXPECT_TRUE(test::SamePixels(Shown(*Picker().GetButton()), [&](int x, int y) {
+        const COLORREF color = picture.At(x - (33 - 14) / 2, y - (19 - 18) / 2);
+        return color == CLR_INVALID ? COLORREF{0x00FFFFFF} : color;
+    }));
+}
+
+TEST_F(DateTimePicker, ItsNameIsNoDate) {
+    auto* picker = Make<TQV7SkinDateTimePicker>(TRect::OfSize(10, 50, 140, 25));
+    picker->SetName(L"Termin");
+    picker->SetTextGrayed(true);
+    picker->CreateParts();
+    EXPECT_EQ(picker->GetText(), L"");
+    EXPECT_EQ(picker->GetLabel()->GetFont().GetColor(), 0x00AAAAAAu);
+    EXPECT_EQ(picker->GetLabel()->GetAnchors(), (TAnchors{akLeft, akTop, akRight}));
+    EXPECT_EQ(picker->GetButton()->GetAnchors(), (TAnchors{akTop, akRight, akBottom}));
+}
+
+TEST_F(DateTimePicker, GreyTextShows) {
+    Picker().SetTextGrayed(true);
+    EXPECT_GT(Shown(Picker()).Count(0x00AAAAAA), 20);
+    EXPECT_EQ(Shown(Picker()).Part({0, 0, 100, 25}).Count(0), 0);
+    Picker().SetTextGrayed(false);
+    EXPECT_GT(Shown(Picker()).Count(0), 20);
+}
+
+TEST_F(DateTimePicker, ClosingByCodeTakesTheDayOver) {
+    Open();
+    Calendar().SetDate(Day + 3);
+    Picker().SetDroppedDown(false);
+    PumpAll();
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_EQ(Picker().GetDate(), Day + 3);
+    EXPECT_EQ(Changes, 1);
+}
+
+TEST_F(DateTimePicker, ADateSetByOnDropDownShowsInTheCalendar) {
+    std::vector<String> told;
+    Picker().OnDropDown = [&](TObject* sender) {
+        EXPECT_EQ(sender, &Picker());
+        told.emplace_back(L"open");
+        Picker().SetDate(Day + 9);
+    };
+    Picker().OnCloseUp = [&](TObject* sender) {
+        EXPECT_EQ(sender, &Picker());
+        told.emplace_back(L"close");
+    };
+    Open();
+    EXPECT_EQ(Calendar().GetDate(), Day + 9);
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_EQ(told, (std::vector<String>{L"open", L"close"}));
+}
+
+TEST_F(DateTimePicker, AFormWithABorderCountsAsOpenToo) {
+    Picker().GetCalendarForm()->SetShowBorder(true);
+    Input.ClickAt(Form().GetHandle(), 130, 22);
+    EXPECT_TRUE(Picker().GetDroppedDown());
+    Picker().GetCalendarForm()->Close();
+    EXPECT_FALSE(Picker().GetDroppedDown());
+}
+
+TEST_F(DateTimePicker, TheCalendarKeepsItsTwoKeysAndLeavesTheOthers) {
+    Open();
+    TfrmQV7SkinDateTimePickerDropDown& form = *Picker().GetCalendarForm();
+    wchar_t key = L'x';
+    form.FormKeyPress(nullptr, key);
+    EXPECT_EQ(key, L'x');
+    EXPECT_TRUE(form.GetVisible());
+    form.Cancelled = true;
+    key = 13;
+    form.FormKeyPress(nullptr, key);
+    EXPECT_EQ(key, 0);
+    EXPECT_FALSE(form.Cancelled);
+    EXPECT_FALSE(form.GetVisible());
+    Open();
+    key = 27;
+    form.FormKeyPress(nullptr, key);
+    EXPECT_EQ(key, 0);
+    EXPECT_TRUE(form.Cancelled);
+    EXPECT_FALSE(form.GetVisible());
+}
+
+TEST_F(DateTimePicker, MayBeFreedByTheDateThatOpeningReads) {
+    const test::FreedMemory freed;
+    Picker().OnDateChange = [](TObject* sender) { delete static_cast<TQV7SkinDateTimePicker*>(sender); };
+    Write(L"24.12.2015");
+    Picker().SetDroppedDown(true);
+    EXPECT_EQ(Form().GetControlCount(), 0);
+    EXPECT_EQ(test::FreedMemory::WrittenBlocks(), 0);
+}
+
+TEST_F(DateTimePicker, MayBeFreedByTheDateThatClosingTakesOver) {
+    const test::FreedMemory freed;
+    Open();
+    Picker().OnDateChange = [](TObject* sender) { delete static_cast<TQV7SkinDateTimePicker*>(sender); };
+    Input.KeyPress(VK_RETURN);
+    EXPECT_EQ(Form().GetControlCount(), 0);
+    EXPECT_EQ(test::FreedMemory::WrittenBlocks(), 0);
+}
+
+/// The user may choose another one, or give up.
+TEST_F(DateTimePicker, ADayThatTheHostRefusesByAnErrorKeepsTheCalendar) {
+    Open();
+    Picker().OnDateChange = [](TObject*) { throw Exception(L"kein Feiertag"); };
+    Input.KeyPress(VK_RETURN);
+    EXPECT_EQ(std::exchange(Errors, {}).size(), 1u);
+    EXPECT_FALSE(Picker().GetDroppedDown());
+    EXPECT_TRUE(Picker().GetCalendarForm()->GetVisible());
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_FALSE(Picker().GetCalendarForm()->GetVisible());
+    EXPECT_TRUE(Errors.empty());
 }
 
 TEST_F(DateTimePicker, DisablingTurnsTextAndPictureGrey) {

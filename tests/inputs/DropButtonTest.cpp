@@ -111,8 +111,7 @@ TEST_F(DropButton, OfADropDownIsDrawnByItsRules) {
 }
 
 TEST_F(DropButton, OfATreeComboBoxIsDrawnByItsRules) {
-    auto* frame = Make<TQV7SkinTreeComboBox>(TRect::OfSize(10, 10, 120, 25));
-    TOwnAdvTreeComboBoxExCustomButtonPaint& box = *frame->GetComboBox();
+    auto& box = *Make<TOwnAdvTreeComboBoxExCustomButtonPaint>(TRect::OfSize(10, 10, 118, 21));
     for (const bool sameColors : {false, true}) {
         Rule rule;
         rule.Face = 0x00AABBCC;
@@ -128,12 +127,12 @@ TEST_F(DropButton, OfATreeComboBoxIsDrawnByItsRules) {
         for (const int state : {0, 1, 2}) {
             rule.Enabled = state != 1;
             rule.Open = state == 2;
-            frame->SetEnabled(rule.Enabled);
+            box.SetEnabled(rule.Enabled);
             box.SetDroppedDown(rule.Open);
             EXPECT_TRUE(ShowsButton(Shown(box), rule)) << state << (sameColors ? " in one colour" : "");
             box.SetDroppedDown(false);
         }
-        frame->SetEnabled(true);
+        box.SetEnabled(true);
     }
 }
 

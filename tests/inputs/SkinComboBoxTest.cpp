@@ -1,6 +1,8 @@
 #include "inputs/UnitQV7SkinComboBox.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "tests/inputs/InputsTest.h"
+#include "tests/support/FreedMemory.h"
+#include "tests/support/WindowProbe.h"
 
 namespace {
 
@@ -78,6 +80,93 @@ TEST_F(SkinComboBox, TheInnerControlStandsInTheFrame) {
     EXPECT_EQ(box.GetComboBox(), inner);
 }
 
+TEST_F(SkinComboBox, TheInnerControlHasTheSettingsOfTheSkin) {
+    TFlatComboBoxExt& inner = *Combo().GetComboBox();
+    EXPECT_EQ(inner.GetOwner(), &Frame());
+    EXPECT_EQ(inner.GetParent(), &Frame());
+    EXPECT_EQ(inner.GetColor(), 0x00FFFFFFu);
+    EXPECT_EQ(inner.GetColors(1), 0x00FFFFFFu);
+    EXPECT_EQ(inner.GetColors(2), 0x00FFFFFFu);
+    EXPECT_EQ(inner.GetAnchors(), (TAnchors{akLeft, akTop, akRight}));
+    EXPECT_EQ(inner.GetButtonWidth(), 15);
+    EXPECT_FALSE(inner.GetDrawButtonLine());
+    EXPECT_FALSE(inner.GetParentBackground());
+    EXPECT_FALSE(inner.GetParentDoubleBuffered());
+    EXPECT_TRUE(inner.GetDoubleBuffered());
+}
+
+TEST_F(SkinComboBox, IsNeverLowerThanItsLeastHeight) {
+    Frame().SetHeight(12);
+    EXPECT_EQ(Frame().GetHeight(), 12);
+    Combo();
+    EXPECT_EQ(Frame().GetHeight(), 25);
+    Frame().SetHeight(12);
+    EXPECT_EQ(Frame().GetHeight(), 25);
+    Frame().SetHeight(40);
+    EXPECT_EQ(Frame().GetHeight(), 40);
+}
+
+TEST_F(SkinComboBox, TakesTheHeightOfItsInnerControlWithALargeFont) {
+    Frame().GetFont().SetHeight(-40);
+    Combo();
+    EXPECT_GT(Frame().GetComboBox()->GetHeight(), 40);
+    EXPECT_EQ(Frame().GetHeight(), Frame().GetComboBox()->GetHeight());
+}
+
+TEST_F(SkinComboBox, TheFocusGoesThroughTheFrame) {
+    TQV7SkinComboBox& box = Frame();
+    const test::WindowProbe frame(box.GetHandle());
+    box.SetFocus();
+    EXPECT_EQ(::GetFocus(), box.GetHandle());
+    box.CreateComboBox();
+    Make<TEdit>(TRect::OfSize(10, 100, 50, 21))->SetFocus();
+    box.SetFocus();
+    EXPECT_EQ(frame.Count(WM_SETFOCUS), 2);
+    EXPECT_TRUE(box.GetComboBox()->Focused());
+}
+
+TEST_F(SkinComboBox, SelectsAllOfItsText) {
+    Frame().SelectAll();
+    TQV7SkinComboBox& box = Combo();
+    box.SetText(L"Text");
+    box.SetFocus();
+    box.GetComboBox()->SetSelLength(0);
+    box.SelectAll();
+    EXPECT_EQ(box.GetComboBox()->GetSelLength(), 4);
+    Input.Type(L"x");
+    EXPECT_EQ(box.GetText(), L"x");
+}
+
+TEST_F(SkinComboBox, HandsOnWhatIsSetLater) {
+    TQV7SkinComboBox& box = Combo({L"c", L"a"});
+    TStringList items;
+    for (const wchar_t* item : {L"z", L"y", L"x"})
+        items.Add(item);
+    box.SetItems(items);
+    EXPECT_EQ(box.GetComboBox()->GetItems().GetCount(), 3);
+    EXPECT_EQ(box.GetItems().Get(0), L"z");
+    box.SetItemIndex(0);
+    EXPECT_EQ(box.GetComboBox()->GetItemIndex(), 0);
+    box.SetSorted(true);
+    EXPECT_TRUE(box.GetComboBox()->GetSorted());
+    EXPECT_TRUE(box.GetSorted());
+    EXPECT_EQ(box.GetItems().Get(0), L"x");
+    EXPECT_EQ(box.GetItemIndex(), 2);
+    box.SetDropDownCount(3);
+    EXPECT_EQ(box.GetComboBox()->GetDropDownCount(), 3);
+    EXPECT_EQ(box.GetDropDownCount(), 3);
+}
+
+TEST_F(SkinComboBox, TheStoredOrderSortsTheInnerList) {
+    Frame().SetSorted(true);
+    Frame().SetItemIndex(0);
+    EXPECT_TRUE(Frame().GetSorted());
+    TQV7SkinComboBox& box = Combo({L"zwei", L"eins"});
+    EXPECT_EQ(box.GetItems().Get(0), L"eins");
+    EXPECT_EQ(box.GetItemIndex(), 1);
+    EXPECT_EQ(box.GetText(), L"zwei");
+}
+
 TEST_F(SkinComboBox, ChoosesTheNearestNumber) {
     TQV7SkinComboBox& box = Combo({L"10", L"20", L"30"});
     box.SetNearestIndexForValue(25, 0);
@@ -100,6 +189,25 @@ TEST_F(SkinComboBox, ATextThatIsNoNumberCountsAsZero) {
     EXPECT_EQ(box.GetItemIndex(), 2);
 }
 
+TEST_F(SkinComboBox, AnEntryThatIsTheNumberGoesBeforeLaterOnesThatQualifyToo) {
+    TQV7SkinComboBox& box = Combo({L"20", L"10", L"30", L" 20"});
+    box.SetNearestIndexForValue(20, 2);
+    EXPECT_EQ(box.GetItemIndex(), 0);
+    box.SetNearestIndexForValue(29, 2);
+    EXPECT_EQ(box.GetItemIndex(), 3);
+}
+
+TEST_F(SkinComboBox, ANumberThatNoIntegerHoldsCountsAsZero) {
+    TQV7SkinComboBox& box = Combo({L"10", L"99999999999", L"-99999999999", L"2147483647"});
+    box.SetNearestIndexForValue(5, 0);
+    EXPECT_EQ(box.GetItemIndex(), 2);
+    box.GetItems().Delete(2);
+    box.SetNearestIndexForValue(5, 0);
+    EXPECT_EQ(box.GetItemIndex(), 1);
+    box.SetNearestIndexForValue(0x7FFFFFFF, 0);
+    EXPECT_EQ(box.GetItemIndex(), 2);
+}
+
 TEST_F(SkinComboBox, WithoutEntriesTheDefaultIndexRemains) {
     Frame().SetNearestIndexForValue(5, -1);
     EXPECT_EQ(Frame().GetItemIndex(), -1);
@@ -114,6 +222,22 @@ TEST_F(SkinComboBox, ShowsANumberThatIsNoEntryAsText) {
     box.SetValue(0.1);
     EXPECT_EQ(box.GetItemIndex(), -1);
     EXPECT_EQ(box.GetText(), L"0.1");
+}
+
+TEST_F(SkinComboBox, WritesNumbersAsTheFrameworkDoes) {
+    TQV7SkinComboBox& box = Combo();
+    const std::pair<double, const wchar_t*> numbers[] = {
+        {2.5, L"2.5"},       {-3, L"-3"},         {1e14, L"100000000000000"}, {1e15, L"1E15"},
+        {1.5e20, L"1.5E20"}, {0.0001, L"0.0001"}, {0.00001, L"1E-5"},         {1.0 / 3, L"0.333333333333333"},
+    };
+    for (const auto& [value, text] : numbers) {
+        box.SetValue(value);
+        EXPECT_EQ(box.GetText(), text);
+        EXPECT_EQ(box.GetItemIndex(), -1);
+    }
+    box.GetItems().Add(L"1E15");
+    box.SetValue(1e15);
+    EXPECT_EQ(box.GetItemIndex(), 0);
 }
 
 TEST_F(SkinComboBox, TellsInItsOwnName) {
@@ -161,6 +285,63 @@ TEST_F(SkinComboBox, DisablingTurnsTextAndArrowLight) {
     box.SetEnabled(true);
     EXPECT_EQ(box.GetComboBox()->GetFont().GetColor(), 0x00000000u);
     EXPECT_EQ(arrow(5, 1), 0x00000000u);
+}
+
+TEST_F(SkinComboBox, TheTextOfADisabledListIsLight) {
+    Frame().SetStyle(csDropDownList);
+    Frame().SetItemIndex(0);
+    Frame().SetEnabled(false);
+    TQV7SkinComboBox& box = Combo({L"WWWWW"});
+    EXPECT_EQ(box.GetComboBox()->GetFont().GetColor(), 0x00F0EAE7u);
+    const auto text = [&] { return Shown(*box.GetComboBox()).Part({0, 0, 90, 25}); };
+    EXPECT_EQ(text().Count(0), 0);
+    EXPECT_GT(text().Count(0x00F0EAE7), 20);
+    box.SetEnabled(true);
+    EXPECT_GT(text().Count(0), 20);
+    EXPECT_EQ(text().Count(0x00F0EAE7), 0);
+}
+
+/// Where the ink of the text begins in the frame.
+int TextLeft(const test::Pixels& shown) {
+    const RECT ink = shown.Part({2, 2, 90, 23}).Bounds([](COLORREF color) { return color == 0; });
+    return 2 + static_cast<int>(ink.left);
+}
+
+TEST_F(SkinComboBox, TheTextStandsInOnePlaceInAllStyles) {
+    TQV7SkinComboBox& box = Combo({L"EEE"});
+    box.SetItemIndex(0);
+    const int withEditor = TextLeft(Shown(box));
+    box.SetStyle(csDropDownList);
+    EXPECT_EQ(TextLeft(Shown(box)), withEditor);
+    box.SetStyle(csOwnerDrawFixed);
+    EXPECT_EQ(TextLeft(Shown(box)), withEditor);
+}
+
+TEST_F(SkinComboBox, MayBeFreedByEveryEventOfTheInnerControl) {
+    const test::FreedMemory freed;
+    struct Occasion {
+        const char* Name;
+        TNotifyEvent TCustomComboBox::*Event;
+        bool Opens;
+    };
+    const Occasion occasions[] = {{"OnDropDown", &TCustomComboBox::OnDropDown, true},
+                                  {"OnCloseUp", &TCustomComboBox::OnCloseUp, true},
+                                  {"OnSelect", &TCustomComboBox::OnSelect, false}};
+    for (const Occasion& occasion : occasions) {
+        auto* box = Make<TQV7SkinComboBox>(TRect::OfSize(10, 40, 120, 25));
+        box->GetItems().Add(L"eins");
+        box->CreateComboBox();
+        box->SetFocus();
+        box->GetComboBox()->*occasion.Event = [&box](TObject*) { delete std::exchange(box, nullptr); };
+        if (occasion.Opens) {
+            Input.KeyPress(VK_F4);
+            if (box) Input.KeyPress(VK_ESCAPE);
+        } else {
+            Input.KeyPress(VK_DOWN);
+        }
+        EXPECT_EQ(box, nullptr) << occasion.Name;
+    }
+    EXPECT_EQ(test::FreedMemory::WrittenBlocks(), 0);
 }
 
 TEST_F(SkinComboBox, TheArrowPointsUpWhileTheListIsOpen) {

@@ -175,6 +175,43 @@ TEST_F(SkinTreeComboBox, SelectsAllOfItsText) {
     EXPECT_EQ(Frame().GetText(), L"x");
 }
 
+TEST_F(SkinTreeComboBox, HandsOnWhatIsSet) {
+    EXPECT_TRUE(Frame().GetParentFont());
+    EXPECT_EQ(Inner().GetOwner(), nullptr);
+    EXPECT_EQ(Inner().GetAnchors(), (TAnchors{akLeft, akTop, akRight}));
+    TStringList items;
+    for (const wchar_t* item : {L"b", L"\tc", L"a"})
+        items.Add(item);
+    Frame().SetItems(items);
+    EXPECT_EQ(Inner().GetItems().GetCount(), 3);
+    Frame().SetItemIndex(1);
+    EXPECT_EQ(Inner().GetItemIndex(), 1);
+    EXPECT_EQ(Frame().GetItemIndex(), 1);
+    EXPECT_EQ(Frame().GetText(), L"c");
+    Frame().SetSorted(true);
+    EXPECT_TRUE(Inner().GetSorted());
+    EXPECT_EQ(Frame().GetItems().Get(0), L"a");
+    Frame().SetStyle(csDropDownList);
+    EXPECT_EQ(Inner().GetStyle(), csDropDownList);
+    EXPECT_EQ(Frame().GetStyle(), csDropDownList);
+    Frame().SetDropDownCount(5);
+    EXPECT_EQ(Inner().GetDropDownCount(), 5);
+    EXPECT_EQ(Frame().GetDropDownCount(), 5);
+    EXPECT_EQ(&Frame().GetTreeItems(), &Inner().GetTreeItems());
+}
+
+TEST_F(SkinTreeComboBox, WhatWasSetWhileLoadingGoesToTheInnerControl) {
+    Frame().SetEnabled(false);
+    EXPECT_FALSE(Inner().GetEnabled());
+    EXPECT_EQ(Inner().GetFont().GetColor(), 0x00F0EAE7u);
+}
+
+TEST_F(SkinTreeComboBox, TakesTheHeightOfItsInnerControl) {
+    auto* frame = Make<TQV7SkinTreeComboBox>(TRect::OfSize(10, 50, 120, 60));
+    const int inner = frame->GetComboBox()->GetHeight();
+    EXPECT_EQ(frame->GetHeight(), std::max(25, inner + 1));
+}
+
 TEST_F(SkinTreeComboBox, MayGoWithItsTreeOpen) {
     Frame().SetFocus();
     Input.KeyPress(VK_F4);

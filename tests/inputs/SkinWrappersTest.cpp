@@ -3,7 +3,6 @@
 #include "inputs/UnitQV7SkinGroupBox.h"
 #include "inputs/UnitQV7SkinPanel.h"
 #include "inputs/UnitQV7SkinRadioButton.h"
-#include "inputs/UnitQV7SkinSpinEdit.h"
 #include "platform/vcl/graphics/Font.h"
 #include "tests/inputs/InputsTest.h"
 
@@ -28,6 +27,7 @@ TEST_F(SkinWrappers, HaveTheirSettings) {
     EXPECT_EQ(panel->GetColors(0), 0x00F0EAE7u);
     EXPECT_EQ(panel->GetColors(1), 0x00F0EAE7u);
     EXPECT_FALSE(panel->GetParentBackground());
+    EXPECT_FALSE(panel->GetParentDoubleBuffered());
     EXPECT_TRUE(panel->GetDoubleBuffered());
     auto* group = Make<TQV7SkinGroupBox>(TRect::OfSize(100, 0, 80, 60));
     EXPECT_EQ(group->GetColors(0), 0x00F0EAE7u);
@@ -53,87 +53,6 @@ TEST_F(SkinWrappers, ACheckBoxTakesTheWidthOfItsCaption) {
 TEST_F(SkinWrappers, APanelIsOfOneColour) {
     auto* panel = Make<TQV7SkinPanel>(TRect::OfSize(10, 10, 40, 20));
     EXPECT_TRUE(test::SamePixels(Shown(*panel), [](int, int) { return 0x00F0EAE7; }));
-}
-
-// --- spin edit
-
-class SkinSpinEdit : public InputsTest {
-protected:
-    TQV7SkinSpinEdit& Spin() {
-        if (!FSpin) FSpin = Make<TQV7SkinSpinEdit>(TRect::OfSize(10, 10, 80, 20));
-        return *FSpin;
-    }
-
-private:
-    TQV7SkinSpinEdit* FSpin = nullptr;
-};
-
-TEST_F(SkinSpinEdit, KeepsItsValueAsCaptionUntilThereIsAnInnerControl) {
-    EXPECT_EQ(Spin().GetIncrement(), 1);
-    EXPECT_EQ(Spin().GetRounding(), 4);
-    Spin().SetValue(42);
-    EXPECT_EQ(Spin().GetCaption(), L"42");
-    EXPECT_EQ(Spin().GetValue(), 42);
-    Spin().SetCaption(L"viel");
-    EXPECT_EQ(Spin().GetValue(), 0);
-}
-
-TEST_F(SkinSpinEdit, HasNoInnerControlAtDesignTime) {
-    TForm designed(nullptr);
-    designed.SetDesigning(true);
-    auto* spin = new TQV7SkinSpinEdit(&designed);
-    spin->SetParent(&designed);
-    spin->CreateEdit();
-    EXPECT_EQ(spin->GetEdit(), nullptr);
-    spin->SetValue(-7);
-    EXPECT_EQ(spin->GetValue(), -7);
-}
-
-TEST_F(SkinSpinEdit, GivesTheInnerControlWhatItKept) {
-    Spin().SetMinValue(-5);
-    Spin().SetMaxValue(50);
-    Spin().SetIncrement(10);
-    Spin().SetValue(7);
-    Spin().CreateEdit();
-    ASSERT_NE(Spin().GetEdit(), nullptr);
-    EXPECT_EQ(Spin().GetValue(), 7);
-    EXPECT_EQ(Spin().GetHeight(), 25);
-    EXPECT_EQ(Spin().GetEdit()->GetBoundsRect().TopLeft(), TPoint(4, 3));
-    EXPECT_EQ(Spin().GetEdit()->GetWidth(), 74);
-    std::vector<int> values;
-    Spin().OnChange = [&](TObject* sender) {
-        EXPECT_EQ(sender, &Spin());
-        values.push_back(Spin().GetValue());
-    };
-    Spin().SetFocus();
-    Input.KeyPress(VK_UP);
-    Input.KeyPress(VK_DOWN);
-    Input.KeyPress(VK_DOWN);
-    Input.KeyPress(VK_DOWN);
-    EXPECT_EQ(values, (std::vector<int>{17, 7, -3, -5}));
-}
-
-TEST_F(SkinSpinEdit, DisablingTurnsTheTextLight) {
-    Spin().CreateEdit();
-    Spin().SetEnabled(false);
-    EXPECT_FALSE(Spin().GetEdit()->GetEnabled());
-    EXPECT_EQ(Spin().GetEdit()->GetFont().GetColor(), 0x00F0EAE7u);
-    Spin().SetEnabled(true);
-    EXPECT_EQ(Spin().GetEdit()->GetFont().GetColor(), 0x00000000u);
-}
-
-TEST_F(SkinSpinEdit, HandsKeysToTheHost) {
-    Spin().CreateEdit();
-    Spin().OnKeyPress = [&](TObject* sender, wchar_t& key) {
-        EXPECT_EQ(sender, &Spin());
-        if (key == L'1') key = L'2';
-    };
-    Spin().SetFocus();
-    Spin().SelectAll();
-    Input.Type(L"13");
-    EXPECT_EQ(Spin().GetValue(), 23);
-    Spin().Clear();
-    EXPECT_EQ(Spin().GetValue(), 0);
 }
 
 }  // namespace

@@ -85,12 +85,20 @@ TEST_F(FlatEditors, TheSpinEditShowsItsColours) {
     Spin().SetColors(1, 0x00222222);
     Spin().SetColors(2, 0x00333333);
     other->SetFocus();
-    test::Pixels shown = Shown(Spin());
+    const auto whole = [&] {
+        PumpAll();
+        return test::ReadWindow(Spin().GetHandle());
+    };
+    test::Pixels shown = whole();
     EXPECT_EQ(shown.At(40, 0), 0x00222222u);
     EXPECT_EQ(shown.At(0, 10), 0x00222222u);
     EXPECT_EQ(shown.At(50, 2), 0x00333333u);
     Spin().SetFocus();
-    EXPECT_EQ(Shown(Spin()).At(50, 2), 0x00111111u);
+    shown = whole();
+    EXPECT_EQ(shown.At(50, 2), 0x00111111u);
+    EXPECT_EQ(shown.At(50, 10), 0x00111111u);
+    for (const TPoint corner : {TPoint(0, 0), TPoint(79, 0), TPoint(0, 20), TPoint(79, 20)})
+        EXPECT_EQ(shown.At(corner.X, corner.Y), 0x00222222u);
 }
 
 TEST_F(FlatEditors, EverythingSurvivesANewWindow) {
