@@ -104,6 +104,16 @@ TEST_F(FlatOwnerDraw, AnErrorOfTheHandlerArrivesAndThePaintingGoesOn) {
     EXPECT_EQ(Shown().At(4, 4), 0u);
 }
 
+/// The system cleans the device context of a window that went in the middle of its painting when it lends that
+/// context out again.
+void UseAllContexts(HWND window) {
+    std::vector<HDC> contexts(64);
+    for (HDC& dc : contexts)
+        dc = ::GetDC(window);
+    for (const HDC dc : contexts)
+        ::ReleaseDC(window, dc);
+}
+
 TEST_F(FlatOwnerDraw, MayBeFreedByTheHandlerThatDraws) {
     const test::FreedMemory freed;
     bool gone = false;
@@ -115,6 +125,7 @@ TEST_F(FlatOwnerDraw, MayBeFreedByTheHandlerThatDraws) {
     EXPECT_TRUE(test::PumpUntil([&] { return gone; }));
     PumpAll();
     EXPECT_EQ(Form().GetControlCount(), 1);
+    UseAllContexts(Form().GetHandle());
     EXPECT_EQ(test::FreedMemory::WrittenBlocks(), 0);
 }
 
@@ -125,6 +136,8 @@ TEST_F(FlatOwnerDraw, EntriesHaveTheirHeights) {
     for (const int entry : {0, 1})
         EXPECT_EQ(::SendMessageW(Box().GetHandle(), CB_GETITEMHEIGHT, static_cast<WPARAM>(entry), 0),
                   20 + 10 * entry);
+    Box().GetItems().Add(L"drei");
+    EXPECT_EQ(::SendMessageW(Box().GetHandle(), CB_GETITEMHEIGHT, 2, 0), 40);
 }
 
 TEST_F(FlatOwnerDraw, ANewWindowHasAClosedList) {

@@ -295,7 +295,10 @@ HWND TWinControl::DrawItemWindow(const DRAWITEMSTRUCT& item) {
 
 HWND TWinControl::MeasureItemWindow(const MEASUREITEMSTRUCT& item) const {
     if (item.CtlType == ODT_MENU) return nullptr;
-    // The message names no window, but it comes while that window is being made.
+    // The message names no window. Those that let it come later have their handle as identifier.
+    if (const auto named = reinterpret_cast<HWND>(static_cast<ULONG_PTR>(item.CtlID)); FindControl(named))
+        return named;
+    // The others get it while they are being made.
     for (const TWinControl* child : FWinControls) {
         if (child->IsControlState(csCreating) && child->FHandle) return child->FHandle;
     }

@@ -169,6 +169,9 @@ void TCustomComboBox::CreateWnd() {
     FEditWindow = HasEditor() ? info.hwndItem : nullptr;
     if (FEditWindow) ::SetWindowSubclass(FEditWindow, &EditProcedure, 1, reinterpret_cast<DWORD_PTR>(this));
     if (FMaxLength) Send(CB_LIMITTEXT, static_cast<WPARAM>(FMaxLength));
+    // Each entry asks for its height when it comes in, by the identifier of this window.
+    if (FStyle == csOwnerDrawVariable)
+        ::SetWindowLongPtrW(WindowHandle(), GWLP_ID, reinterpret_cast<LONG_PTR>(WindowHandle()));
     FillWindow();
     if (FSavedIndex >= 0) Send(CB_SETCURSEL, static_cast<WPARAM>(FSavedIndex));
     if (HasEditor()) {
