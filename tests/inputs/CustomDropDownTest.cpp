@@ -4,6 +4,7 @@
 #include "platform/vcl/stdctrls/Label.h"
 #include "tests/inputs/InputsTest.h"
 #include "tests/support/FreedMemory.h"
+#include "tests/support/WindowProbe.h"
 
 namespace {
 
@@ -179,7 +180,9 @@ TEST_F(CustomDropDown, TellsBeforeTheFormShowsAndBeforeItCloses) {
 
 TEST_F(CustomDropDown, ATextIsPaintedAtOnce) {
     Shown(Drop());
+    const test::WindowProbe messages(Drop().GetHandle());
     Drop().SetText(L"Neu");
+    EXPECT_TRUE(messages.Saw(WM_PAINT));
     EXPECT_GT(test::ReadWindow(Drop().GetHandle()).Count(0), 20);
 }
 
@@ -287,11 +290,17 @@ TEST_F(CustomDropDown, KeysOpenAndCloseWithTheFocusOnIt) {
     Popup();
     Drop().SetTabStop(true);
     Drop().SetFocus();
+    Input.KeyPress(VK_DOWN);
+    Input.KeyPress(VK_UP);
+    EXPECT_FALSE(Drop().GetDroppedDown());
     Input.KeyPress(VK_F4);
     EXPECT_TRUE(Popup().GetVisible());
     Input.KeyPress(VK_ESCAPE);
     EXPECT_FALSE(Popup().GetVisible());
     Input.Chord({VK_MENU}, VK_DOWN);
+    EXPECT_TRUE(Popup().GetVisible());
+    Input.KeyPress(VK_ESCAPE);
+    Input.Chord({VK_MENU}, VK_UP);
     EXPECT_TRUE(Popup().GetVisible());
 }
 

@@ -108,6 +108,13 @@ TEST_F(DropButton, OfADropDownIsDrawnByItsRules) {
         drop->SetDrawButtonLine((state & 4) != 0);
         EXPECT_TRUE(ShowsButton(Shown(*drop->GetButton()), rule)) << state;
     }
+    drop->SetEnabled(true);
+    drop->SetDrawButtonLine(false);
+    drop->SetHeight(24);
+    rule = {};
+    rule.Place = {-1, 0, 18, 18};
+    rule.Open = true;
+    EXPECT_TRUE(ShowsButton(Shown(*drop->GetButton()), rule)) << "of an even height";
 }
 
 TEST_F(DropButton, OfATreeComboBoxIsDrawnByItsRules) {

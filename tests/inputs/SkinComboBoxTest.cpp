@@ -171,6 +171,8 @@ TEST_F(SkinComboBox, ChoosesTheNearestNumber) {
     TQV7SkinComboBox& box = Combo({L"10", L"20", L"30"});
     box.SetNearestIndexForValue(25, 0);
     EXPECT_EQ(box.GetItemIndex(), 1);
+    box.SetNearestIndexForValue(15, 2);
+    EXPECT_EQ(box.GetItemIndex(), 0);
     box.SetNearestIndexForValue(5, 0);
     EXPECT_EQ(box.GetItemIndex(), 0);
     box.SetNearestIndexForValue(5, 2);
@@ -292,6 +294,7 @@ TEST_F(SkinComboBox, TheTextOfADisabledListIsLight) {
     Frame().SetItemIndex(0);
     Frame().SetEnabled(false);
     TQV7SkinComboBox& box = Combo({L"WWWWW"});
+    EXPECT_FALSE(box.GetComboBox()->GetEnabled());
     EXPECT_EQ(box.GetComboBox()->GetFont().GetColor(), 0x00F0EAE7u);
     const auto text = [&] { return Shown(*box.GetComboBox()).Part({0, 0, 90, 25}); };
     EXPECT_EQ(text().Count(0), 0);

@@ -6,6 +6,7 @@
 #include "inputs/UnitQV7SkinTreeComboBox.h"
 #include "platform/vcl/stdctrls/Button.h"
 #include "tests/manual/ChapterTest.h"
+#include "tests/support/PixelProbe.h"
 
 namespace {
 
@@ -43,12 +44,24 @@ public:
         category->OnDropUp = {this, &TOrderForm::CategoryClosed};
         Category = category;
     }
+    TQV7SkinComboBox* MakeShades() {
+        auto* shades = new TQV7SkinComboBox(this);
+        shades->SetParent(this);
+        shades->SetBounds(12, 84, 140, 25);
+        shades->GetItems().Add(L"schwarz");
+        shades->GetItems().Add(L"dunkelblau");
+        shades->CreateComboBox();
+        shades->SetStyle(csOwnerDrawFixed);
+        shades->GetComboBox()->OnDrawItem = {this, &TOrderForm::DrawShade};
+        return shades;
+    }
     TColorForm* MakeColors(TQV7SkinComboBoxCustomDropDown* drop, TButton* button) {
         auto* colors = new TColorForm(this);  // belongs to this form, and lies above it
         drop->SetDropDownForm(colors);        // opens below the drop-down control ...
         colors->ShowAtControl(button);        // ... or below any other control
         return colors;
     }
+    void DrawShade(TObject*, int entry, const TRect& place, UINT, HDC dc);
     void FillNode(TObject*, TTreeNode* node, bool& allow);
     void CategoryClosed(TObject*, bool cancelled);
 
@@ -61,6 +74,11 @@ public:
     String Shown;
 };
 
+void TOrderForm::DrawShade(TObject*, int entry, const TRect& place, UINT, HDC dc) {
+    const RECT area = place;
+    ::SetDCBrushColor(dc, entry < 0 ? RGB(255, 255, 255) : RGB(0, 0, 80 * entry));  // -1: none is chosen
+    ::FillRect(dc, &area, static_cast<HBRUSH>(::GetStockObject(DC_BRUSH)));
+}
 void TOrderForm::FillNode(TObject*, TTreeNode* node, bool& allow) {
     if (node->GetCount() == 0) allow = LoadBelow(*node);  // false keeps the node closed
 }
@@ -74,6 +92,15 @@ TEST_F(InputsChapterTest, AComboBoxMadeInCodeHasItsItems) {
     TQV7SkinComboBox* salutation = Main().MakeSalutation();
     salutation->SetItemIndex(0);
     EXPECT_EQ(salutation->GetText(), L"Frau");
+}
+
+TEST_F(InputsChapterTest, TheHostDrawsEntries) {
+    TQV7SkinComboBox* shades = Main().MakeShades();
+    for (const int entry : {-1, 0, 1}) {
+        shades->SetItemIndex(entry);
+        const COLORREF expected = entry < 0 ? RGB(255, 255, 255) : RGB(0, 0, 80 * entry);
+        EXPECT_EQ(test::ReadClient(shades->GetComboBox()->GetHandle()).At(20, 10), expected);
+    }
 }
 
 TEST_F(InputsChapterTest, ATreeIsFilledWhenTheUserWantsToSeeIt) {

@@ -104,8 +104,8 @@ TEST_F(FlatOwnerDraw, AnErrorOfTheHandlerArrivesAndThePaintingGoesOn) {
     EXPECT_EQ(Shown().At(4, 4), 0u);
 }
 
-/// The system cleans the device context of a window that went in the middle of its painting when it lends that
-/// context out again.
+/// The system cleans the device context of a window that went in the middle of its painting when it lends
+/// that context out again.
 void UseAllContexts(HWND window) {
     std::vector<HDC> contexts(64);
     for (HDC& dc : contexts)
