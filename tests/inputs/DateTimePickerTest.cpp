@@ -159,6 +159,15 @@ TEST_F(DateTimePicker, ATextIsReadByEnterAndByLeaving) {
     EXPECT_EQ(Changes, 2);
 }
 
+TEST_F(DateTimePicker, ADateThatIsSetGoesBeforeATextThatWasWritten) {
+    Picker();
+    Write(L"24.12.2015");
+    Picker().SetDate(Day + 5);
+    Picker().DoEditExit(nullptr);
+    EXPECT_EQ(Picker().GetDate(), Day + 5);
+    EXPECT_EQ(Changes, 1);
+}
+
 TEST_F(DateTimePicker, EverySettingOfTheDateIsTold) {
     Picker().SetDate(Day);
     Picker().SetDate(Day);
@@ -343,6 +352,8 @@ TEST_F(DateTimePicker, TheCalendarKeepsItsTwoKeysAndLeavesTheOthers) {
     EXPECT_EQ(key, 0);
     EXPECT_TRUE(form.Cancelled);
     EXPECT_FALSE(form.GetVisible());
+    form.MonthCalendarDblClick(nullptr);
+    EXPECT_FALSE(form.Cancelled);
 }
 
 TEST_F(DateTimePicker, MayBeFreedByTheDateThatOpeningReads) {

@@ -85,6 +85,7 @@ TEST_F(SkinSpinEdit, TheNumberStandsInTheMiddleOfTheFrame) {
     Spin().CreateEdit();
     const test::Pixels shown = Shown(Spin());
     const RECT ink = shown.Part({2, 2, 50, 23}).Bounds([](COLORREF color) { return color == 0; });
+    EXPECT_NEAR(ink.left + 2, 6, 1);
     EXPECT_NEAR((ink.top + ink.bottom - 1) / 2.0 + 2, 12, 1);
     const RECT arrows = shown.Part({55, 2, 77, 23}).Bounds([](COLORREF color) { return color == 0; });
     EXPECT_NEAR((arrows.top + arrows.bottom - 1) / 2.0 + 2, 12, 1);

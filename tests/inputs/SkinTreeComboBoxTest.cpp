@@ -200,10 +200,13 @@ TEST_F(SkinTreeComboBox, HandsOnWhatIsSet) {
     EXPECT_EQ(&Frame().GetTreeItems(), &Inner().GetTreeItems());
 }
 
-TEST_F(SkinTreeComboBox, WhatWasSetWhileLoadingGoesToTheInnerControl) {
-    Frame().SetEnabled(false);
-    EXPECT_FALSE(Inner().GetEnabled());
-    EXPECT_EQ(Inner().GetFont().GetColor(), 0x00F0EAE7u);
+TEST_F(SkinTreeComboBox, WhatWasSetBeforeGoesToTheInnerControl) {
+    TQV7SkinTreeComboBox frame(nullptr);
+    frame.SetEnabled(false);
+    frame.GetFont().SetStyle({fsBold});
+    EXPECT_FALSE(frame.GetComboBox()->GetEnabled());
+    EXPECT_EQ(frame.GetComboBox()->GetFont().GetColor(), 0x00F0EAE7u);
+    EXPECT_EQ(frame.GetComboBox()->GetFont().GetStyle(), TFontStyles{fsBold});
 }
 
 TEST_F(SkinTreeComboBox, TakesTheHeightOfItsInnerControl) {

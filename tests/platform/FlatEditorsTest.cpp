@@ -1,5 +1,6 @@
 #include "platform/flatstyle/FlatComboBox.h"
 #include "platform/flatstyle/FlatSpinEditInteger.h"
+#include "platform/vcl/graphics/Font.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -96,9 +97,57 @@ TEST_F(FlatEditors, TheSpinEditShowsItsColours) {
     Spin().SetFocus();
     shown = whole();
     EXPECT_EQ(shown.At(50, 2), 0x00111111u);
-    EXPECT_EQ(shown.At(50, 10), 0x00111111u);
+    for (int y = 1; y < 20; ++y)
+        EXPECT_EQ(shown.At(50, y), 0x00111111u) << y;
     for (const TPoint corner : {TPoint(0, 0), TPoint(79, 0), TPoint(0, 20), TPoint(79, 20)})
         EXPECT_EQ(shown.At(corner.X, corner.Y), 0x00222222u);
+}
+
+TEST_F(FlatEditors, WithoutANumberTheLeastOneCounts) {
+    Spin().SetMinValue(5);
+    Spin().SetMaxValue(50);
+    Spin().SetText(L"");
+    EXPECT_EQ(Spin().GetValue(), 5);
+    Spin().Step(1);
+    EXPECT_EQ(Spin().GetValue(), 6);
+}
+
+TEST_F(FlatEditors, AStepSelectsTheNumberForTheNextOneToBeTyped) {
+    auto* other = Make<TEdit>(TRect::OfSize(10, 50, 80, 21));
+    other->SetFocus();
+    ClickButton(true);
+    EXPECT_TRUE(Spin().Focused());
+    EXPECT_EQ(Spin().GetValue(), 1);
+    Input.Type(L"-7");
+    EXPECT_EQ(Spin().GetText(), L"-7");
+    Spin().SetReadOnly(true);
+    Input.KeyPress(VK_UP);
+    EXPECT_EQ(Spin().GetValue(), -7);
+}
+
+TEST_F(FlatEditors, ButtonsAreDisabledWithTheSpinEditAlsoBeforeItsWindow) {
+    TFlatSpinEditInteger early(nullptr);
+    early.SetEnabled(false);
+    early.SetParent(&Form());
+    EXPECT_FALSE(::IsWindowEnabled(early.ButtonsHandle()));
+    early.SetEnabled(true);
+    EXPECT_TRUE(::IsWindowEnabled(early.ButtonsHandle()));
+}
+
+TEST_F(FlatEditors, TheNumberStaysInTheMiddle) {
+    const auto top = [this] {
+        RECT window{};
+        ::GetWindowRect(Spin().GetHandle(), &window);
+        return Spin().ClientToScreen({0, 0}).Y - static_cast<int>(window.top);
+    };
+    Spin().GetFont().SetHeight(-11);
+    EXPECT_EQ(top(), (21 - 13) / 2);
+    Spin().SetHeight(31);
+    EXPECT_EQ(top(), (31 - 13) / 2);
+    Spin().GetFont().SetHeight(-20);
+    EXPECT_EQ(top(), (31 - 25) / 2);
+    Spin().SetHeight(20);
+    EXPECT_EQ(top(), 0);
 }
 
 TEST_F(FlatEditors, EverythingSurvivesANewWindow) {
@@ -142,6 +191,22 @@ TEST_F(FlatEditors, AComboBoxHasALineAroundItAndAButtonWithATriangle) {
     EXPECT_EQ(shown.At(x + 3, y + 1), 0x00222222u);
 }
 
+TEST_F(FlatEditors, TheEditorOfAComboBoxReachesToItsButton) {
+    auto* box = Make<ProbedFlatComboBox>(TRect::OfSize(10, 10, 100, 21));
+    const auto place = [&] {
+        RECT rect{};
+        ::GetWindowRect(box->EditHandle(), &rect);
+        const TPoint at = box->ScreenToClient({static_cast<int>(rect.left), static_cast<int>(rect.top)});
+        return TRect::OfSize(at.X, at.Y, static_cast<int>(rect.right - rect.left),
+                             static_cast<int>(rect.bottom - rect.top));
+    };
+    EXPECT_EQ(place(), TRect(3, 3, box->GetButtonRect().Left - 1, box->GetClientHeight() - 3));
+    box->SetWidth(140);
+    EXPECT_EQ(place(), TRect(3, 3, box->GetButtonRect().Left - 1, box->GetClientHeight() - 3));
+    box->SetButtonWidth(30);
+    EXPECT_EQ(place(), TRect(3, 3, 140 - 30 - 1, box->GetClientHeight() - 3));
+}
+
 TEST_F(FlatEditors, TheTrianglePointsUpWhileTheListIsOpen) {
     auto* box = Make<ProbedFlatComboBox>(TRect::OfSize(10, 10, 100, 21));
     box->GetItems().Add(L"eins");
@@ -169,6 +234,9 @@ TEST_F(FlatEditors, AListShowsItsChosenEntry) {
     EXPECT_GT(dark(), 20);
     box->SetFocus();
     EXPECT_GT(Shown(*box).Count(ColorToRGB(clHighlight)), 100);
+    box->SetDroppedDown(true);
+    EXPECT_EQ(Shown(*box).Count(ColorToRGB(clHighlight)), 0);
+    box->SetDroppedDown(false);
 }
 
 }  // namespace
