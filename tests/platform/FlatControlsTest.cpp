@@ -2,8 +2,12 @@
 #include "platform/flatstyle/FlatGroupBox.h"
 #include "platform/flatstyle/FlatPanel.h"
 #include "platform/flatstyle/FlatRadioButton.h"
+#include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/stdctrls/Edit.h"
+#include "platform/vcl/streaming/ClassRegistry.h"
+#include "platform/vcl/streaming/FormText.h"
+#include "platform/vcl/streaming/Reader.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
 
@@ -94,6 +98,56 @@ TEST_F(FlatControls, ArrowsGoFromRadioButtonToRadioButton) {
     Input.KeyPress(VK_LEFT);
     EXPECT_TRUE(radios[2]->GetChecked());
     EXPECT_FALSE(radios[0]->GetChecked());
+}
+
+TEST_F(FlatControls, ArrowsStayInTheGroup) {
+    TFlatRadioButton* radios[3];
+    for (int i = 0; i < 3; ++i)
+        radios[i] = Make<TFlatRadioButton>(TRect::OfSize(10, 10 + 20 * i, 80, 17));
+    radios[1]->SetGroupIndex(1);
+    radios[0]->SetFocus();
+    Input.KeyPress(VK_DOWN);
+    EXPECT_TRUE(radios[2]->Focused());
+    EXPECT_FALSE(radios[1]->GetChecked());
+}
+
+TEST_F(FlatControls, ACheckedRadioButtonThatJoinsAGroupIsTheOne) {
+    auto* a = Make<TFlatRadioButton>(TRect::OfSize(10, 10, 80, 17));
+    auto* b = Make<TFlatRadioButton>(TRect::OfSize(10, 30, 80, 17));
+    b->SetGroupIndex(1);
+    a->SetChecked(true);
+    b->SetChecked(true);
+    EXPECT_TRUE(a->GetChecked());
+    b->SetGroupIndex(0);
+    EXPECT_TRUE(b->GetChecked());
+    EXPECT_FALSE(a->GetChecked());
+}
+
+/// Counts its clicks from the beginning.
+class CountingCheckBox : public TFlatCheckBox {
+public:
+    explicit CountingCheckBox(TComponent* AOwner) : TFlatCheckBox(AOwner) {
+        OnClick = [this](TObject*) { ++Clicks; };
+    }
+    [[nodiscard]] const TMetaClass& ClassType() const override { return StaticClass(); }
+    [[nodiscard]] static const TMetaClass& StaticClass() {
+        static const TMetaClass meta =
+            DefineClass<CountingCheckBox>(L"TCountingCheckBox", TFlatCheckBox::StaticClass());
+        return meta;
+    }
+    int Clicks = 0;
+};
+
+TEST_F(FlatControls, AFormFileThatChecksABoxClicksNothing) {
+    RegisterClass(CountingCheckBox::StaticClass());
+    TReader(ParseFormText(L"object Form: TForm\nobject Box: TCountingCheckBox\nChecked = True\nend\nend"))
+        .ReadRootComponent(&Form());
+    auto& box = dynamic_cast<CountingCheckBox&>(*Form().FindComponent(L"Box"));
+    EXPECT_TRUE(box.GetChecked());
+    EXPECT_EQ(box.Clicks, 0);
+    box.SetChecked(false);
+    EXPECT_EQ(box.Clicks, 1);
+    UnRegisterClass(CountingCheckBox::StaticClass());
 }
 
 TEST_F(FlatControls, ARadioButtonMayBeFreedByItsClick) {

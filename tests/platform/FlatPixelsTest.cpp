@@ -132,6 +132,7 @@ TEST_F(FlatPixels, AlignedControlsOfAGroupBoxStandBelowItsCaption) {
     auto* group = Make<TFlatGroupBox>(TRect::OfSize(10, 10, 120, 60));
     PumpAll();
     auto* inside = Make<TEdit>(TRect::OfSize(0, 0, 20, 20), group);
+    inside->SetAutoSize(false);
     inside->SetAlign(alClient);
     TEXTMETRICW metrics{};
     const HDC dc = ::GetDC(group->GetHandle());
