@@ -195,8 +195,8 @@ void TFlatComboBox::PaintEntry(HDC dc, const TRect& area) {
         item.hDC = dc;
         item.rcItem = entry;
         FCanvas->Refresh();
-        // The handler gets the context as that of the list, and may leave it as it likes. The font stays until
-        // it is selected no more, even if the handler frees the combo box.
+        // The handler gets the context as that of the list, and may leave it as it likes. The font stays
+        // until it is selected no more, even if the handler frees the combo box.
         const TSharedFont font = GetFont().GetShared();
         const TSaveDC state(dc);
         ::SelectObject(dc, GetFont().GetHandle());
