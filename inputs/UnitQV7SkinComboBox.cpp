@@ -116,6 +116,8 @@ void TCustomQV7SkinComboBox::CreateComboBox() {
     inner->OnClick = {this, &TCustomQV7SkinComboBox::DoClick};
     inner->OnKeyPress = {this, &TCustomQV7SkinComboBox::DoKeyPress};
     FComboBox = inner;
+    // The least height counts from now on, whatever the greatest one is.
+    SetHeight(GetHeight());
     AdjustComboBoxTopForCurrentStyle();
 }
 

@@ -62,6 +62,8 @@ void TCustomQV7SkinSpinEdit::CreateEdit() {
     inner->OnChange = {this, &TCustomQV7SkinSpinEdit::DoChange};
     inner->OnKeyPress = {this, &TCustomQV7SkinSpinEdit::DoKeyPress};
     FEdit = inner;
+    // The least height counts from now on, whatever the greatest one is.
+    SetHeight(GetHeight());
 }
 
 int TCustomQV7SkinSpinEdit::GetValue() const {

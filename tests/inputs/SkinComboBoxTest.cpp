@@ -96,9 +96,11 @@ TEST_F(SkinComboBox, TheInnerControlHasTheSettingsOfTheSkin) {
 }
 
 TEST_F(SkinComboBox, IsNeverLowerThanItsLeastHeight) {
-    Frame().SetHeight(12);
+    Frame().GetConstraints().SetMaxHeight(12);
     EXPECT_EQ(Frame().GetHeight(), 12);
     Combo();
+    EXPECT_EQ(Frame().GetHeight(), 25);
+    Frame().GetConstraints().SetMaxHeight(0);
     EXPECT_EQ(Frame().GetHeight(), 25);
     Frame().SetHeight(12);
     EXPECT_EQ(Frame().GetHeight(), 25);

@@ -53,9 +53,11 @@ TEST_F(SkinSpinEdit, TheInnerControlHasTheSettingsOfTheSkin) {
 }
 
 TEST_F(SkinSpinEdit, IsNeverLowerThanItsLeastHeight) {
-    EXPECT_EQ(Spin().GetHeight(), 20);
+    Spin().GetConstraints().SetMaxHeight(12);
+    EXPECT_EQ(Spin().GetHeight(), 12);
     Spin().CreateEdit();
     EXPECT_EQ(Spin().GetHeight(), 25);
+    Spin().GetConstraints().SetMaxHeight(0);
     Spin().SetHeight(20);
     EXPECT_EQ(Spin().GetHeight(), 25);
     Spin().SetHeight(30);
