@@ -138,6 +138,57 @@ TEST_F(ExplorerBarFocusTest, TheFocusedPlaceComesIntoView) {
     EXPECT_TRUE(ShowsRowsOf(*WholePicture()));
 }
 
+TEST_F(ExplorerBarFocusTest, AHeaderComesIntoViewWithItsWholeGroup) {
+    Bar().GetGroups().Clear();
+    Fill(3, 8);
+    Enter();
+    while (Place() != "g2")
+        Input.KeyPress(VK_TAB);
+    EXPECT_EQ(ScrollPos() + 300, Group(2).BodyRect().Bottom);
+    while (Place() != "g0")
+        Back();
+    EXPECT_EQ(ScrollPos(), 0);
+}
+
+TEST_F(ExplorerBarFocusTest, WithoutAnotherPlaceTheFocusStays) {
+    FAfter->SetFocus();
+    Back();
+    Focus().MoveFocus(true);
+    EXPECT_EQ(Place(), "i2.1");
+    Focus().ResetIndex(true);
+    Focus().MoveFocus(false);
+    EXPECT_EQ(Place(), "g0");
+}
+
+TEST_F(ExplorerBarFocusTest, KeysDoNothingWhileTheBarHasNotTheFocus) {
+    Group(0).GetItems().Clear();
+    auto& box = AddTo(0, new TCheck(L"check", 0, L"", false, true, true));
+    Watch(box, "box");
+    Focus().ResetIndex(true);
+    Focus().DoReturnKeyPress();
+    EXPECT_EQ(Group(0).GetState(), egsOpen);
+    Focus().MoveFocus(true);
+    ASSERT_EQ(Focus().FocusedItem(), &box);
+    EXPECT_FALSE(box.IsFocused());
+    Focus().DoReturnKeyPress();
+    Focus().DoSpaceKeyPress();
+    EXPECT_TRUE(Log.empty());
+    EXPECT_FALSE(box.GetChecked());
+}
+
+TEST_F(ExplorerBarFocusTest, AReturnThatChangesNothingPaintsAllTheSame) {
+    Enter();
+    Input.KeyPress(VK_TAB);
+    int paints = 0;
+    const TFFPaintEvent painter = Box().OnFFPaint;
+    Box().OnFFPaint = [&](TObject*, TBitmap*) { ++paints; };
+    Input.KeyPress(VK_RETURN);
+    EXPECT_EQ(paints, 1);
+    Input.KeyPress(VK_SPACE);
+    EXPECT_EQ(paints, 1) << "not for a key that does nothing";
+    Box().OnFFPaint = painter;
+}
+
 TEST_F(ExplorerBarFocusTest, TheFocusIsShownOnlyWhileTheBarHasIt) {
     Enter();
     const auto focused = WholePicture();
@@ -157,7 +208,9 @@ TEST_F(ExplorerBarFocusTest, TheFrameIsWiderAndFurtherRight) {
     TBitmap bitmap(60, 30, pf24bit);
     bitmap.GetCanvas().GetBrush().SetColor(clBlue);
     bitmap.GetCanvas().FillRect({0, 0, 60, 30});
+    bitmap.GetCanvas().GetBrush().SetColor(clLime);
     Focus().DrawFocusRect(bitmap.GetCanvas(), {10, 5, 40, 20}, clRed);
+    EXPECT_EQ(bitmap.GetCanvas().GetPixel(25, 12), clBlue) << "only the frame is drawn";
     TRect found(60, 30, 0, 0);
     for (int y = 0; y < 30; ++y)
         for (int x = 0; x < 60; ++x) {

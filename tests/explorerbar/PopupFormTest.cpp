@@ -94,6 +94,19 @@ TEST_F(PopupForm, ItsWindowIsAPopupOfTheAttachedForm) {
     Popup().SetAttachedTo(&Other());
     EXPECT_NE(Popup().GetHandle(), window);
     EXPECT_EQ(::GetWindow(Popup().GetHandle(), GW_OWNER), Other().GetHandle());
+    const HWND attached = Popup().GetHandle();
+    Popup().SetAttachedTo(&Other());
+    EXPECT_NE(Popup().GetHandle(), attached) << "anew each time";
+}
+
+TEST_F(PopupForm, InTheDesignerItIsAWindowOfItsOwnWithAllButtons) {
+    TfrmQV7SkinPopupFormBase designed(nullptr);
+    designed.SetDesigning(true);
+    designed.SetAttachedTo(&Form());
+    designed.HandleNeeded();
+    EXPECT_NE(::GetWindow(designed.GetHandle(), GW_OWNER), Form().GetHandle());
+    EXPECT_TRUE(designed.imgCloseWindow->GetVisible());
+    EXPECT_TRUE(designed.imgExcludeWindow->GetVisible());
 }
 
 TEST_F(PopupForm, LosesItsAttachmentWithTheForm) {
@@ -187,6 +200,13 @@ TEST_F(PopupForm, EscapeDoesNothingWithoutCloseOnEscape) {
     EXPECT_TRUE(Popup().GetVisible());
 }
 
+TEST_F(PopupForm, AHandlerMayTakeTheEscapeKey) {
+    Popup().OnKeyPress = [](TObject*, wchar_t& key) { key = 0; };
+    Open();
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_TRUE(Popup().GetVisible());
+}
+
 TEST_F(PopupForm, TheCloseButtonClosesIt) {
     Open();
     Popup().ShowAllButtons();
@@ -267,6 +287,28 @@ TEST_F(PopupForm, CloseFormsAttachedToClosesThoseOfOneForm) {
     EXPECT_TRUE(foreign->GetVisible());
     CloseFormsAttachedTo(&Other());
     EXPECT_FALSE(foreign->GetVisible());
+}
+
+TEST_F(PopupForm, CloseFormsAttachedToLeavesThoseThatDoNotShow) {
+    int closings = 0;
+    Popup().OnClose = [&](TObject*, TCloseAction&) { ++closings; };
+    CloseFormsAttachedTo(&Form());
+    EXPECT_EQ(closings, 0);
+    Open();
+    CloseFormsAttachedTo(&Form());
+    EXPECT_EQ(closings, 1);
+    Popup().OnClose.Clear();
+}
+
+TEST_F(PopupForm, APressGivesTheMouseBackAfterItsEvent) {
+    Open();
+    HWND during = nullptr;
+    Popup().OnMouseDown = [&](TObject*, TMouseButton, TShiftState, int, int) { during = ::GetCapture(); };
+    Input.MoveTo(Popup().GetHandle(), 50, 50);
+    Input.Press();
+    EXPECT_EQ(during, Popup().GetHandle());
+    EXPECT_EQ(::GetCapture(), nullptr);
+    Input.Release();
 }
 
 // --- in and out
