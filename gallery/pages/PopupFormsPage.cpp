@@ -21,6 +21,7 @@ constexpr int FieldWidth = 220;
 constexpr int FieldTop = 60;
 constexpr int FieldStep = 44;
 constexpr int BarLeft = 470;
+constexpr int BarWidth = 236;
 
 struct TSizing {
     const wchar_t* Text;
@@ -83,7 +84,7 @@ private:
 class TKeptForm : public TQV7SkinExplorerItemPopupWindow {
 public:
     TKeptForm(TComponent* AOwner, const wchar_t* text) : TQV7SkinExplorerItemPopupWindow(AOwner) {
-        SetClientWidth(236);
+        SetWidth(BarWidth);
         SetClientHeight(84);
         AddText(*this, TRect(12, 10, 224, 52), text);
         FKeep = new TQV7SkinCheckBox(this);
@@ -143,13 +144,13 @@ protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
         DrawHeading(canvas, FieldLeft, 24, BarLeft - 40, L"Unter einem Feld, zu ziehen an diesen Kanten");
-        DrawHeading(canvas, BarLeft, 24, BarLeft + 236, L"Unter einem Verweis");
+        DrawHeading(canvas, BarLeft, 24, BarLeft + BarWidth, L"Unter einem Verweis");
     }
 
 private:
     void AddBar() {
         FBar = new TQV7SkinExplorerBar(this);
-        FBar->SetBounds(BarLeft, FieldTop, 236, 300);
+        FBar->SetBounds(BarLeft, FieldTop, BarWidth, 300);
         FBar->SetParent(this);
         FBar->BeginUpdate();
         auto* group = FBar->GetGroups().Add(L"Vorschau", false);
