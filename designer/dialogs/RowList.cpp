@@ -120,7 +120,7 @@ void TRowList::DrawRow(int index) {
     if (!row.IsLine) canvas.TextRect(text, row.Text, format);
     if (!row.Note.empty()) {
         if (!isLight) font.SetColor(static_cast<TColor>(clGrayText));
-        canvas.TextRect(text, row.Note, format | DT_RIGHT);
+        canvas.TextRect(text, row.Note, DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_RIGHT);
     }
     canvas.GetBrush().SetStyle(bsSolid);
     if (!row.IsLine) return;
@@ -240,7 +240,7 @@ bool TRowList::IsEditing() const {
 void TRowList::BeginEdit() {
     if (FChosen == None || !OnEdited) return;
     const TRect rect = RowRect(FChosen);
-    const int left = TextLeft(FChosen) - 2;
+    const int left = TextLeft(FChosen);
     FEditor->SetBounds(left, rect.Top + 2, rect.Right - left - 2, FRowHeight - 4);
     FEditor->SetText(FRows[static_cast<std::size_t>(FChosen)].Text);
     FEditor->Show();

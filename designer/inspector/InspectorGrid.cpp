@@ -3,8 +3,11 @@
 #include <algorithm>
 
 #include "designer/inspector/PropertyEditors.h"
+#include "designer/inspector/PropertyText.h"
 #include "designer/inspector/ValueEdit.h"
+#include "designer/inspector/ValueList.h"
 #include "menus/UnitQV7SkinMenus.h"
+#include "platform/vcl/controls/HintWindow.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Brush.h"
@@ -22,6 +25,21 @@ constexpr int ExpanderSize = 9;
 constexpr int ButtonWidth = 18;
 constexpr TColor ChosenGround = 0x00F0E7EA;
 constexpr TColor LineColor = 0x00F0EAE7;
+/// Pixels between the line before the values and their text.
+constexpr int ValueMargin = 3;
+/// The last of the colours to choose from opens the window for all others.
+constexpr wchar_t OtherColor[] = L"Andere …";
+
+/// A triangle that points down, in the middle of the place.
+void DrawDropMark(TCanvas& canvas, const TRect& place) {
+    const int x = (place.Left + place.Right) / 2;
+    const int y = (place.Top + place.Bottom) / 2 - 2;
+    const TPoint shape[] = {{x - 3, y}, {x + 3, y}, {x, y + 3}};
+    canvas.GetPen().SetColor(GetQV7SkinColorLinkText());
+    canvas.GetBrush().SetStyle(bsSolid);
+    canvas.GetBrush().SetColor(GetQV7SkinColorLinkText());
+    canvas.Polygon(shape);
+}
 
 }  // namespace
 
@@ -39,6 +57,8 @@ TInspectorGrid::TInspectorGrid(TComponent* AOwner)
     SetDoubleBuffered(true);
     FEditor->OnKeyDown = {this, &TInspectorGrid::EditorKeyDown};
     FEditor->OnExit = {this, &TInspectorGrid::EditorExit};
+    FEditor->OnDblClick = {this, &TInspectorGrid::EditorDblClick};
+    FEditor->OnMouseDown = {this, &TInspectorGrid::EditorMouseDown};
 }
 
 TInspectorGrid::~TInspectorGrid() {
@@ -135,17 +155,17 @@ void TInspectorGrid::DrawLine(int index) {
     canvas.TextRect(name, line.Name, format);
     font.SetStyle(line.IsDefault ? TFontStyles{} : TFontStyles{fsBold});
     if (line.IsReadOnly) font.SetColor(clGrayText);
-    TRect value{ValueLeft() + 3, rect.Top, rect.Right - 2, rect.Bottom - 1};
+    TRect value{ValueLeft() + ValueMargin, rect.Top, rect.Right - 2, rect.Bottom - 1};
     if (isChosen && HasButton(line)) value.Right -= ButtonWidth;
     canvas.TextRect(value, line.Text, format);
     canvas.GetBrush().SetStyle(bsSolid);
     if (!isChosen || !HasButton(line)) return;
     TRect button = ButtonRect(index);
+    if (line.Row->Kind() != TPropertyKind::Nested) return DrawDropMark(canvas, button);
     font.SetStyle({});
     font.SetColor(GetQV7SkinColorLinkText());
-    const bool opensWindow = HasValueEditor(line) && line.Row->Kind() == TPropertyKind::Nested;
     canvas.GetBrush().SetStyle(bsClear);
-    canvas.TextRect(button, opensWindow ? L"…" : L"\u25BE", DT_SINGLELINE | DT_VCENTER | DT_CENTER);
+    canvas.TextRect(button, L"…", DT_SINGLELINE | DT_VCENTER | DT_CENTER);
     canvas.GetBrush().SetStyle(bsSolid);
 }
 
@@ -172,6 +192,24 @@ void TInspectorGrid::Dispatch(TMessage& message) {
         return;
     }
     TCustomControl::Dispatch(message);
+    if (message.Msg == CM_HINTSHOW) ShowHint(*reinterpret_cast<THintInfo*>(message.LParam));
+}
+
+/// A name or value that is cut off has all of it as its hint.
+void TInspectorGrid::ShowHint(THintInfo& info) const {
+    info.HintStr.clear();
+    const int index = info.CursorPos.Y / LineHeight;
+    if (!FList || index >= static_cast<int>(FList->Lines().size())) return;
+    const TPropertyLine& line = FList->Lines()[static_cast<std::size_t>(index)];
+    const bool isName = info.CursorPos.X < ValueLeft();
+    info.CursorRect = LineRect(index);
+    (isName ? info.CursorRect.Right : info.CursorRect.Left) = ValueLeft();
+    TCanvas& canvas = const_cast<TInspectorGrid*>(this)->GetCanvas();
+    canvas.GetFont().Assign(&GetFont());
+    canvas.GetFont().SetStyle(line.IsDefault || isName ? TFontStyles{} : TFontStyles{fsBold});
+    const String& text = isName ? line.Name : line.Text;
+    const int start = isName ? 8 + line.Depth * Indent + ExpanderSize : ValueLeft() + ValueMargin;
+    if (start + canvas.TextWidth(text) > info.CursorRect.Right - ValueMargin) info.HintStr = text;
 }
 
 void TInspectorGrid::Resize() {
@@ -188,6 +226,7 @@ void TInspectorGrid::MouseDown(TMouseButton button, TShiftState shift, int x, in
     if (index >= static_cast<int>(FList->Lines().size())) return;
     const TPropertyLine line = FList->Lines()[static_cast<std::size_t>(index)];
     Choose(line.Path);
+    FPressTime = static_cast<DWORD>(::GetMessageTime());
     if (button == mbRight) return ShowMenu({x, y});
     const int left = 4 + line.Depth * Indent;
     if (line.CanExpand && x >= left && x < left + ExpanderSize) {
@@ -195,6 +234,11 @@ void TInspectorGrid::MouseDown(TMouseButton button, TShiftState shift, int x, in
         return UpdateLines();
     }
     if (HasButton(line) && ButtonRect(index).Contains({x, y})) return DropDown();
+    FocusEditor();
+}
+
+void TInspectorGrid::FocusEditor() {
+    if (!ChosenLine() && FList && !FList->Lines().empty()) Choose(FList->Lines().front().Path);
     if (FEditor->GetVisible()) FEditor->SetFocus();
 }
 
@@ -223,11 +267,25 @@ void TInspectorGrid::ResetChosen() {
     Try([this](const String& path) { FList->Reset(path); });
 }
 
-/// Edits in a window where there is one, opens and closes what holds others, else goes on to the next value.
 void TInspectorGrid::DblClick() {
     const TLifeGuard guard(*this);
     TCustomControl::DblClick();
-    const TPropertyLine* line = guard.IsAlive() ? ChosenLine() : nullptr;
+    if (guard.IsAlive()) OpenOrTurn();
+}
+
+/// The first press of two may show the editor, which then gets the second.
+void TInspectorGrid::EditorMouseDown(TObject*, TMouseButton button, TShiftState, int, int) {
+    const DWORD since = static_cast<DWORD>(::GetMessageTime()) - FPressTime;
+    if (button == mbLeft && since <= ::GetDoubleClickTime()) OpenOrTurn();
+}
+
+void TInspectorGrid::EditorDblClick(TObject*) {
+    OpenOrTurn();
+}
+
+/// Edits in a window where there is one, opens and closes what holds others, else goes on to the next value.
+void TInspectorGrid::OpenOrTurn() {
+    const TPropertyLine* line = ChosenLine();
     if (!line) return;
     if (HasValueEditor(*line)) return OnEditValue(*line);
     if (line->CanExpand) {
@@ -246,7 +304,8 @@ void TInspectorGrid::PlaceEditor() {
     if (!line || line->IsReadOnly || line->Element >= 0) return FEditor->Hide();
     const TRect rect = LineRect(index);
     const int right = HasButton(*line) ? rect.Right - ButtonWidth : rect.Right - 2;
-    FEditor->SetBounds(ValueLeft() + 2, rect.Top + 3, right - ValueLeft() - 2, LineHeight - 5);
+    const int left = ValueLeft() + ValueMargin;
+    FEditor->SetBounds(left, rect.Top + 3, right - left, LineHeight - 5);
     FEditor->SetColor(ChosenGround);
     FEditor->GetFont().SetStyle(line->IsDefault ? TFontStyles{} : TFontStyles{fsBold});
     if (FEditor->GetText() != line->Text) FEditor->SetText(line->Text);
@@ -288,7 +347,7 @@ void TInspectorGrid::ChooseBy(int delta) {
     const int count = static_cast<int>(FList->Lines().size());
     const int index = std::clamp(IndexOfChosen() + delta, 0, count - 1);
     Choose(FList->Lines()[static_cast<std::size_t>(index)].Path);
-    if (FEditor->GetVisible()) FEditor->SetFocus();
+    FocusEditor();
 }
 
 void TInspectorGrid::Accept() {
@@ -317,22 +376,34 @@ void TInspectorGrid::Try(const std::function<void(const String& path)>& change) 
     UpdateLines();
 }
 
+TValueList& TInspectorGrid::Values() {
+    if (FValues) return *FValues;
+    FValues = new TValueList(this);
+    FValues->OnTake = {this, &TInspectorGrid::TakeValue};
+    FValues->OnLeave = {this, &TInspectorGrid::FocusEditor};
+    return *FValues;
+}
+
+void TInspectorGrid::TakeValue(const String& text) {
+    const TLifeGuard guard(*this);
+    const TPropertyLine* line = ChosenLine();
+    if (line && text == OtherColor)
+        OnEditValue(*line);
+    else
+        SetValue(text);
+    if (guard.IsAlive()) FocusEditor();
+}
+
 void TInspectorGrid::DropDown() {
     const TPropertyLine* line = ChosenLine();
-    if (!line) return;
+    if (!line || !HasButton(*line)) return;
     if (line->Row->Kind() == TPropertyKind::Nested) return OnEditValue(*line);
-    FMenu->GetItems().Clear();
-    for (const String& choice : FList->Choices(*line)) {
-        auto* item = new TMenuItem(FMenu);
-        item->SetCaption(choice);
-        item->SetRadioItem(true);
-        item->SetChecked(choice == line->Text);
-        item->OnClick = [this, choice](TObject*) { SetValue(choice); };
-        FMenu->GetItems().Add(item);
-    }
-    const TRect rect = LineRect(IndexOfChosen());
-    const TPoint place = ClientToScreen({ValueLeft(), rect.Bottom});
-    FMenu->Popup(place.X, place.Y);
+    const bool isColor = IsColorProperty(*line->Row);
+    std::vector<String> values = FList->Choices(*line);
+    if (isColor) values.emplace_back(OtherColor);
+    TRect place = LineRect(IndexOfChosen());
+    place.Left = ValueLeft();
+    Values().Drop(*this, place, std::move(values), line->Text, isColor);
 }
 
 }  // namespace designer

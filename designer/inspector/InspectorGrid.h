@@ -9,9 +9,14 @@ namespace qv7skin {
 class TQV7SkinPopupMenu;
 }
 
+namespace vcl {
+struct THintInfo;
+}
+
 namespace designer {
 
 class TValueEdit;
+class TValueList;
 
 /// The lines of a property list as a table of names and values, to be edited in place. As high as all lines;
 /// it stands in a control that scrolls.
@@ -32,6 +37,8 @@ public:
     /// The path of the line that is being edited; empty for none.
     [[nodiscard]] const String& GetChosenPath() const { return FChosen; }
     void Choose(const String& path);
+    /// Brings the focus to the value of the chosen line, of the first one when there is none.
+    void FocusEditor();
     /// Takes over what stands in the editor. What can't be goes to `OnRefused` and the old value comes back.
     void Accept();
     [[nodiscard]] TRect LineRect(int index) const;
@@ -60,6 +67,12 @@ private:
     void EditorExit(TObject* sender);
     void ChooseBy(int delta);
     void DropDown();
+    [[nodiscard]] TValueList& Values();
+    void TakeValue(const String& text);
+    void EditorDblClick(TObject* sender);
+    void EditorMouseDown(TObject* sender, TMouseButton button, TShiftState shift, int x, int y);
+    void OpenOrTurn();
+    void ShowHint(THintInfo& info) const;
     void ShowMenu(TPoint place);
     void AddToMenu(const wchar_t* caption, bool isEnabled, std::function<void()> command);
     void ResetChosen();
@@ -72,6 +85,8 @@ private:
     String FChosen;
     TValueEdit* FEditor;
     TQV7SkinPopupMenu* FMenu;
+    TValueList* FValues = nullptr;  ///< Made when it is first needed.
+    DWORD FPressTime = 0;           ///< When a line was last pressed, by the clock of messages.
     bool FAccepting = false;
 };
 

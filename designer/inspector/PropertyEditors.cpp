@@ -6,6 +6,7 @@
 
 #include "designer/dialogs/DialogParts.h"
 #include "designer/dialogs/ItemsDialog.h"
+#include "designer/inspector/PropertyText.h"
 #include "platform/vcl/core/Collection.h"
 #include "platform/vcl/core/StringList.h"
 #include "platform/vcl/forms/Form.h"
@@ -53,7 +54,7 @@ void EditPicture(TDesignDocument& document, const TPropertyLine& line, const wch
 }
 
 bool IsColor(const TPropertyLine& line) {
-    return line.Row->Kind() == TPropertyKind::Integer && SameText(line.Name, L"Color");
+    return line.Row->Kind() == TPropertyKind::Integer && IsColorProperty(*line.Row);
 }
 
 void EditColor(TDesignDocument& document, const TPropertyLine& line, TValueDialogs& dialogs) {
@@ -112,7 +113,11 @@ bool TValueDialogs::AskFont(TFont& font) {
 }
 
 std::optional<TColor> TValueDialogs::AskColor(TColor present) {
-    static std::array<COLORREF, 16> own{};
+    static std::array<COLORREF, 16> own = [] {
+        std::array<COLORREF, 16> white{};
+        white.fill(RGB(255, 255, 255));
+        return white;
+    }();
     CHOOSECOLORW dialog{};
     dialog.lStructSize = sizeof dialog;
     dialog.hwndOwner = ::GetActiveWindow();
@@ -133,6 +138,12 @@ std::optional<String> TValueDialogs::AskLines(const String& present) {
     memo->SetScrollBars(ssBoth);
     memo->SetText(present);
     memo->SetParent(&form);
+    // The text takes both keys for itself otherwise.
+    memo->OnKeyDown = [&form](TObject*, WORD& key, TShiftState shift) {
+        if (key == VK_ESCAPE) form.SetModalResult(mrCancel);
+        if (key == VK_RETURN && shift.Contains(ssCtrl)) form.SetModalResult(mrOk);
+    };
+    form.SetActiveControl(memo);
     AddOkAndCancel(form);
     if (form.ShowModal() != mrOk) return std::nullopt;
     return memo->GetText();

@@ -10,11 +10,6 @@
 namespace designer {
 namespace {
 
-bool IsColor(const TPublishedProperty& row) {
-    const auto names = row.Identifiers();
-    return std::ranges::any_of(names, [](const TIdentifier& id) { return SameText(id.Name, L"clBlack"); });
-}
-
 bool IsShortCut(const TPublishedProperty& row) {
     return SameText(row.Name(), L"ShortCut");
 }
@@ -24,7 +19,7 @@ String IntegerText(const TPublishedProperty& row, std::int64_t value) {
     const auto names = row.Identifiers();
     const auto named = std::ranges::find(names, value, &TIdentifier::Value);
     if (named != names.end()) return named->Name;
-    return IsColor(row) ? Format(L"$%.8X", static_cast<std::uint32_t>(value)) : IntToStr(value);
+    return IsColorProperty(row) ? Format(L"$%.8X", static_cast<std::uint32_t>(value)) : IntToStr(value);
 }
 
 std::int64_t IntegerOf(const TPublishedProperty& row, const String& text) {
@@ -122,6 +117,11 @@ void AddMethods(const TPublishedProperty& wanted, TComponent& component, std::ve
 }
 
 }  // namespace
+
+bool IsColorProperty(const TPublishedProperty& row) {
+    const auto names = row.Identifiers();
+    return std::ranges::any_of(names, [](const TIdentifier& id) { return SameText(id.Name, L"clBlack"); });
+}
 
 String PropertyText(const TPublishedProperty& row, TPersistent& object) {
     if (row.Kind() == TPropertyKind::Event) {

@@ -11,6 +11,9 @@ namespace designer {
 
 // The values of properties as a user reads and types them: True, clBtnFace, [akLeft,akTop], Button1.
 
+/// True for a property whose value is a colour: it has names, a sample and a window of its own.
+[[nodiscard]] bool IsColorProperty(const TPublishedProperty& row);
+
 /// The value of the object's property; of an event the name of its method, of an object that it holds the
 /// class in parentheses.
 [[nodiscard]] String PropertyText(const TPublishedProperty& row, TPersistent& object);

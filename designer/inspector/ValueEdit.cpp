@@ -11,6 +11,11 @@ TValueEdit::TValueEdit(TWinControl& owner) : TEdit(&owner) {
     SetParent(&owner);
 }
 
+void TValueEdit::CreateWnd() {
+    TEdit::CreateWnd();
+    Perform(EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+}
+
 void TValueEdit::Dispatch(TMessage& message) {
     TEdit::Dispatch(message);
     if (message.Msg == CM_WANTSPECIALKEY &&

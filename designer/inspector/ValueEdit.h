@@ -13,6 +13,7 @@ public:
     explicit TValueEdit(TWinControl& owner);
 
 protected:
+    void CreateWnd() override;
     void Dispatch(TMessage& message) override;
 };
 

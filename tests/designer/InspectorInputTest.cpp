@@ -1,6 +1,11 @@
 #include <algorithm>
 
+#include "designer/dialogs/RowList.h"
 #include "designer/inspector/InspectorGrid.h"
+#include "designer/inspector/ValueList.h"
+#include "platform/vcl/controls/HintWindow.h"
+#include "platform/vcl/controls/Messages.h"
+#include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/stdctrls/Button.h"
 #include "platform/vcl/stdctrls/Label.h"
 #include "platform/vcl/stdctrls/Memo.h"
@@ -81,17 +86,26 @@ protected:
         const HWND menu = ::FindWindowExW(nullptr, nullptr, MAKEINTATOM(32768), nullptr);
         return menu && ::IsWindowVisible(menu);
     }
-    /// Presses the button of the line and takes the value at that place of the list.
-    void TakeValue(const wchar_t* path, int index) {
+    /// The list of values that is dropped down; null while there is none.
+    static TValueList* OpenList() {
+        auto* list = dynamic_cast<TValueList*>(Screen().GetActiveForm());
+        return list && list->GetVisible() ? list : nullptr;
+    }
+    /// Presses the button of the line.
+    void DropDown(const wchar_t* path) {
         ClickLine(path);
         const TRect line = Line(path);
-        test::When(&IsMenuOpen, [this, index] {
-            for (int i = 0; i <= index; ++i)
-                Input.KeyPress(VK_DOWN);
-            Input.KeyPress(VK_RETURN);
-        });
         Input.ClickAt(Grid().WindowHandle(), line.Right - 8, line.Top + 10);
-        test::PumpAll();
+        ASSERT_TRUE(OpenList());
+    }
+    /// Takes the value at that place of the list.
+    void TakeValue(const wchar_t* path, int index) {
+        DropDown(path);
+        Input.KeyPress(VK_HOME);
+        for (int i = 0; i < index; ++i)
+            Input.KeyPress(VK_DOWN);
+        Input.KeyPress(VK_RETURN);
+        EXPECT_FALSE(OpenList());
     }
     void ResetLine(const wchar_t* path) {
         const TRect line = Line(path);
@@ -124,6 +138,95 @@ TEST_F(InspectorInputTest, EnumerationsAreTakenFromTheListOrTurnedByDoubleClicks
     EXPECT_TRUE(TextHas("Align = alTop")) << Document().Text();
     DoubleClickLine(L"Enabled");
     EXPECT_TRUE(TextHas("Enabled = False"));
+}
+
+TEST_F(InspectorInputTest, ValuesAreTakenByMouse) {
+    Choose({L"Label1"});
+    DropDown(L"Align");
+    TRowList& rows = OpenList()->List();
+    EXPECT_EQ(rows.Rows()[static_cast<std::size_t>(rows.GetChosen())].Text, L"alNone") << "the present value";
+    const TRect row = rows.RowRect(3);
+    Input.MoveTo(rows.WindowHandle(), 20, row.Top + 5);
+    EXPECT_EQ(rows.GetChosen(), 3) << "it follows the mouse";
+    Input.Click();
+    EXPECT_FALSE(OpenList());
+    EXPECT_TRUE(TextHas("Align = alLeft")) << Document().Text();
+    EXPECT_EQ(Screen().GetActiveForm(), Window.get());
+}
+
+TEST_F(InspectorInputTest, TypedLettersFindAValueInTheList) {
+    Choose({L"Label1"});
+    DropDown(L"Color");
+    TRowList& rows = OpenList()->List();
+    Input.Type(L"clna");
+    EXPECT_EQ(rows.Rows()[static_cast<std::size_t>(rows.GetChosen())].Text, L"clNavy");
+    Input.KeyPress(VK_RETURN);
+    EXPECT_EQ(Find<TLabel>(L"Label1").GetColor(), clNavy);
+}
+
+TEST_F(InspectorInputTest, ALongListScrollsAndStaysOnTheScreen) {
+    Choose({L"Label1"});
+    DropDown(L"Color");
+    const TRect place = OpenList()->GetBoundsRect();
+    EXPECT_LE(place.Height(), TValueList::MaxRows * 20 + 2);
+    EXPECT_LE(place.Bottom, ::GetSystemMetrics(SM_CYSCREEN));
+    EXPECT_EQ(Document().History().Count(), 0u);
+    Input.KeyPress(VK_END);
+    TRowList& rows = OpenList()->List();
+    EXPECT_EQ(rows.GetChosen(), rows.Count() - 1);
+    const TPoint last = rows.ClientToScreen(rows.RowRect(rows.GetChosen()).TopLeft());
+    EXPECT_LT(last.Y, place.Bottom);
+}
+
+TEST_F(InspectorInputTest, EscapeAndAClickElsewhereGiveTheListUp) {
+    Choose({L"Label1"});
+    DropDown(L"Align");
+    Input.KeyPress(VK_DOWN);
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_FALSE(OpenList());
+    DropDown(L"Align");
+    Input.KeyPress(VK_DOWN);
+    Input.ClickAt(Window->Surface().WindowHandle(), 4, 4);
+    EXPECT_FALSE(OpenList());
+    EXPECT_EQ(Document().History().Count(), 0u);
+}
+
+TEST_F(InspectorInputTest, ADoubleClickOnTheValueTurnsItToo) {
+    Choose({L"Label1"});
+    TRect line = Line(L"Enabled");
+    Input.DoubleClickAt(Grid().WindowHandle(), Grid().ValueLeft() + 20, line.Top + 10);
+    EXPECT_TRUE(TextHas("Enabled = False")) << "the editor was not there yet";
+    line = Line(L"Enabled");
+    Input.DoubleClickAt(Grid().WindowHandle(), Grid().ValueLeft() + 20, line.Top + 10);
+    EXPECT_FALSE(TextHas("Enabled = False")) << "now it is";
+}
+
+TEST_F(InspectorInputTest, WhatIsCutOffIsItsHint) {
+    const auto hintAt = [this](const wchar_t* path, int x) {
+        THintInfo info;
+        info.CursorPos = {x, Line(path).Top + 10};
+        info.HintStr = L"?";
+        Grid().Perform(CM_HINTSHOW, 0, reinterpret_cast<LPARAM>(&info));
+        return info.HintStr;
+    };
+    Document().Selection().Clear();
+    const int value = Grid().ValueLeft() + 20;
+    EXPECT_EQ(hintAt(L"BorderIcons", value), L"[biSystemMenu,biMinimize,biMaximize]");
+    EXPECT_EQ(hintAt(L"BorderIcons", 20), L"");
+    EXPECT_EQ(hintAt(L"Align", value), L"");
+}
+
+TEST_F(InspectorInputTest, LinesAreLeftByEscape) {
+    Choose({L"Memo1"});
+    bool ran = false;
+    InDialog(L"Zeilen", [&](DialogDriver& dialog) {
+        dialog.Input.Type(L"weg");
+        dialog.Input.KeyPress(VK_ESCAPE);
+        ran = dialog.Form().GetModalResult() == mrCancel;
+    });
+    DoubleClickLine(L"Lines");
+    EXPECT_TRUE(ran);
+    EXPECT_EQ(Document().History().Count(), 0u);
 }
 
 TEST_F(InspectorInputTest, ElementsOfASetAreTurnedInTheirLines) {
