@@ -77,6 +77,10 @@ BOOL CALLBACK LookAt(HWND window, LPARAM parameter) {
 
 }  // namespace
 
+std::wstring ProgramFolder() {
+    return OwnFolder().wstring();
+}
+
 ProgramRun RunProgram(std::wstring_view name, std::wstring_view arguments) {
     const TempDir folder;
     ProgramRun run;

@@ -14,6 +14,9 @@ struct ProgramRun {
     std::string Errors;      ///< The same of its standard error output.
 };
 
+/// Where the test program stands, and all programs with what they need.
+[[nodiscard]] std::wstring ProgramFolder();
+
 /// Runs a program that stands beside the test program, on the desktop of the test, and waits for its end.
 /// `arguments` is the command line behind the program's name.
 ProgramRun RunProgram(std::wstring_view name, std::wstring_view arguments);
