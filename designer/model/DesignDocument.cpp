@@ -1,8 +1,27 @@
 #include "designer/model/DesignDocument.h"
 
+#include <utility>
+
 #include "platform/vcl/streaming/FormText.h"
 
 namespace designer {
+namespace {
+
+/// What the frame of a form's window is made by. While it is designed a form leaves its window alone.
+auto FrameOf(const TDesignRoot& root) {
+    return std::pair(root.GetBorderStyle(), root.GetBorderIcons());
+}
+
+/// Gives the form's window the frame that a reader of the file would give it, around the same inner size.
+void RenewFrame(TDesignRoot& root) {
+    const int width = root.GetClientWidth();
+    const int height = root.GetClientHeight();
+    root.RecreateWnd();
+    root.SetClientWidth(width);
+    root.SetClientHeight(height);
+}
+
+}  // namespace
 
 TDesignDocument::TDesignDocument() {
     FForm.OnRemove = {this, &TDesignDocument::NoteRemoved};
@@ -44,8 +63,16 @@ void TDesignDocument::BeginNew() {
 void TDesignDocument::Edit(const String& label, const std::function<void()>& change) {
     ++FDepth;
     try {
+        const TDesignRoot* root = &Root();
+        const auto frame = FrameOf(*root);
         change();
-        if (FDepth == 1) CheckInherited();
+        if (FDepth == 1) {
+            if (&Root() == root && FrameOf(*root) != frame) {
+                RenewFrame(Root());
+                OnRebuilt();
+            }
+            CheckInherited();
+        }
     } catch (...) {
         if (--FDepth == 0) {
             Show(FText, FForm.Write());

@@ -20,6 +20,14 @@ void TSelection::Toggle(TComponent* component) {
     OnChange();
 }
 
+void TSelection::Lead(TComponent* component) {
+    std::vector<TComponent*> items = FItems;
+    const auto place = std::ranges::find(items, component);
+    if (place == items.end() || place == items.begin()) return;
+    std::rotate(items.begin(), place, place + 1);
+    Set(std::move(items));
+}
+
 void TSelection::Forget(const TComponent* component) {
     if (std::erase(FItems, component) != 0) OnChange();
 }

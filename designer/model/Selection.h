@@ -28,6 +28,8 @@ public:
     void SetOnly(TComponent* component) { Set({component}); }
     /// Takes the component in as the last, or out.
     void Toggle(TComponent* component);
+    /// Lets one of the chosen components lead.
+    void Lead(TComponent* component);
 
     /// Forgets a component that is being freed.
     void Forget(const TComponent* component);
