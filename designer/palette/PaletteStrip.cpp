@@ -38,7 +38,8 @@ const TMetaClass& TPaletteStrip::StaticClass() {
         DefineClass<TPaletteStrip>(L"TPaletteStrip", TCustomControl::StaticClass())
             .Property(L"Align", &TPaletteStrip::GetAlign, &TPaletteStrip::SetAlign, alNone)
             .Property(L"ShowHint", &TPaletteStrip::GetShowHint, &TPaletteStrip::SetShowHint, false)
-            .Event(L"OnChoose", &TPaletteStrip::OnChoose);
+            .Event(L"OnChoose", &TPaletteStrip::OnChoose)
+            .Event(L"OnPlace", &TPaletteStrip::OnPlace);
     return meta;
 }
 
@@ -52,6 +53,7 @@ TPaletteStrip::TPaletteStrip(TComponent* AOwner) : TCustomControl(AOwner) {
 void TPaletteStrip::SetClasses(TClassList classes) {
     FClasses = std::move(classes);
     FChosen = -1;
+    FKeeps = false;
     FHot = None;
     Invalidate();
 }
@@ -63,6 +65,7 @@ const TMetaClass* TPaletteStrip::GetChosen() const {
 void TPaletteStrip::SetChosen(const TMetaClass* value) {
     const auto place = std::ranges::find(FClasses, value);
     FChosen = place == FClasses.end() ? -1 : static_cast<int>(place - FClasses.begin());
+    FKeeps = false;
     Invalidate();
 }
 
@@ -105,12 +108,20 @@ void TPaletteStrip::DrawCell(int index) {
 void TPaletteStrip::MouseDown(TMouseButton button, TShiftState shift, int x, int y) {
     const TLifeGuard guard(*this);
     TCustomControl::MouseDown(button, shift, x, y);
-    if (!guard.IsAlive() || button != mbLeft) return;
+    // The second press of two has placed already.
+    if (!guard.IsAlive() || button != mbLeft || shift.Contains(ssDouble)) return;
     const int index = IndexAt(x, y);
     if (index == None) return;
     FChosen = index;
+    FKeeps = shift.Contains(ssShift);
     Invalidate();
     OnChoose(this);
+}
+
+void TPaletteStrip::DblClick() {
+    const TLifeGuard guard(*this);
+    TCustomControl::DblClick();
+    if (guard.IsAlive() && GetChosen()) OnPlace(this);
 }
 
 void TPaletteStrip::MouseMove(TShiftState shift, int x, int y) {

@@ -19,16 +19,21 @@ public:
     /// The pressed class; null for the arrow.
     [[nodiscard]] const TMetaClass* GetChosen() const;
     void SetChosen(const TMetaClass* value);
+    /// The class was pressed with Shift: it stays pressed until the arrow or Esc.
+    [[nodiscard]] bool KeepsChosen() const { return FKeeps; }
     /// Where the class at the index stands; -1 for the arrow.
     [[nodiscard]] static TRect CellOf(int index);
 
     /// Another cell was pressed by the user.
     TNotifyEvent OnChoose;
+    /// The pressed class was clicked twice: a component of it is wanted at once.
+    TNotifyEvent OnPlace;
 
 protected:
     void Paint() override;
     void Dispatch(TMessage& message) override;
     void MouseDown(TMouseButton button, TShiftState shift, int x, int y) override;
+    void DblClick() override;
     void MouseMove(TShiftState shift, int x, int y) override;
     void MouseLeave() override;
 
@@ -41,6 +46,7 @@ private:
     TClassList FClasses;
     int FChosen = -1;
     int FHot = None;
+    bool FKeeps = false;
 };
 
 }  // namespace designer

@@ -2,6 +2,7 @@
 
 #include "designer/model/Arranging.h"
 #include "designer/model/Placing.h"
+#include "designer/model/Walking.h"
 #include "designer/surface/Handles.h"
 #include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/controls/Mouse.h"
@@ -128,13 +129,14 @@ TRect TDesignSurface::AreaShowing(const TControl& control) const {
 
 std::optional<int> TDesignSurface::HandleUnder(TPoint point) const {
     const TSelection& selection = FDocument.Selection();
-    if (selection.Items().size() != 1 || !dynamic_cast<const TControl*>(selection.Leader()))
+    if (IsLocked || selection.Items().size() != 1 || !dynamic_cast<const TControl*>(selection.Leader()))
         return std::nullopt;
     return HandleAt(PlaceInForm(*selection.Leader()), point);
 }
 
 void TDesignSurface::UpdateMarks() {
     if (!HandleAllocated()) return;
+    FitToRoot();
     const HWND window = Root().WindowHandle();
     FIcons.Show(Root());
     std::vector<TRect> handles;
@@ -144,9 +146,11 @@ void TDesignSurface::UpdateMarks() {
         if (!dynamic_cast<const TControl*>(component) && !TComponentIcons::IsShownByIcon(*component))
             continue;
         const auto around = HandlesAround(PlaceInForm(*component));
-        const bool single = selection.Items().size() == 1 && dynamic_cast<const TControl*>(component);
+        const bool isSized =
+            !IsLocked && selection.Items().size() == 1 && dynamic_cast<const TControl*>(component);
+        const bool leads = selection.Items().size() > 1 && component == selection.Leader();
         for (std::size_t i = 0; i < around.size(); ++i) {
-            if (single)
+            if (isSized || (leads && i % 2 == 0))
                 handles.push_back(around[i]);
             else if (i % 2 == 0)
                 marks.push_back(around[i]);
@@ -237,18 +241,20 @@ void TDesignSurface::PaintGrid() {
     const TRect area = canvas.GetClipRect().Intersect(Root().GetClientRect());
     canvas.GetBrush().SetColor(Root().GetColor());
     canvas.FillRect(area);
-    if (!ShowGrid || Snapping.Grid < 2) return;
-    const auto firstFrom = [grid = Snapping.Grid](int begin) { return (begin + grid - 1) / grid * grid; };
+    if (!ShowGrid) return;
+    // The grid may show without being snapped to.
+    const int grid = Snapping.Grid > 1 ? Snapping.Grid : TSnapping().Grid;
+    const auto firstFrom = [grid](int begin) { return (begin + grid - 1) / grid * grid; };
     const COLORREF dot = ColorToRGB(GetQV7SkinColorLinkText());
-    for (int y = firstFrom(area.Top); y < area.Bottom; y += Snapping.Grid)
-        for (int x = firstFrom(area.Left); x < area.Right; x += Snapping.Grid)
+    for (int y = firstFrom(area.Top); y < area.Bottom; y += grid)
+        for (int x = firstFrom(area.Left); x < area.Right; x += grid)
             ::SetPixelV(canvas.GetHandle(), x, y, dot);
 }
 
 void TDesignSurface::Dispatch(TMessage& message) {
     switch (message.Msg) {
         case WM_GETDLGCODE:
-            message.Result = DLGC_WANTARROWS;
+            message.Result = DLGC_WANTARROWS | DLGC_WANTTAB;
             return;
         case WM_CAPTURECHANGED:
             TCustomControl::Dispatch(message);
@@ -296,11 +302,26 @@ void TDesignSurface::KeyDown(WORD& key, TShiftState shift) {
             return Nudge(0, step, sizing);
         case VK_DELETE:
             return DeleteChosen();
+        case VK_TAB:
+            return ChooseNext(FDocument, shift.Contains(ssShift) ? -1 : 1);
         case VK_ESCAPE:
-            return FDocument.Selection().Clear();
+            return Leave();
         default:
             return;
     }
+}
+
+/// Gives up the tool, else goes up to what the leader stands in.
+void TDesignSurface::Leave() {
+    if (!FTool) return ChooseParent(FDocument);
+    FTool = nullptr;
+    OnToolLeft();
+}
+
+/// A press on one of several that moved nothing lets that one lead.
+void TDesignSurface::LeadAt(TPoint point, TShiftState shift) {
+    if (!FEdges.IsNone() || shift.Contains(ssShift)) return;
+    if (TComponent* item = ItemAt(point)) FDocument.Selection().Lead(item);
 }
 
 void TDesignSurface::DeleteChosen() {
@@ -313,7 +334,7 @@ void TDesignSurface::DeleteChosen() {
 }
 
 void TDesignSurface::Nudge(int dx, int dy, bool sizing) {
-    if (FDocument.Selection().IsEmpty()) return;
+    if (IsLocked || FDocument.Selection().IsEmpty()) return;
     if (sizing)
         GrowSelection(FDocument, dx, dy);
     else

@@ -24,6 +24,8 @@ public:
 
     TSnapping Snapping;
     bool ShowGrid = true;
+    /// Nothing on the form can be moved or sized by mouse and keys.
+    bool IsLocked = false;
     /// The class that the next press puts on the form; null when a press chooses.
     [[nodiscard]] const TMetaClass* GetTool() const { return FTool; }
     void SetTool(const TMetaClass* value);
@@ -35,6 +37,8 @@ public:
 
     /// The tool has been used, and is not wanted again.
     TEvent<void()> OnToolUsed;
+    /// The user gave the tool up.
+    TEvent<void()> OnToolLeft;
     /// A component, or the form, was clicked twice.
     TEvent<void(TComponent*)> OnOpenItem;
     /// The menu for what is chosen is wanted at that point of the screen.
@@ -94,6 +98,8 @@ private:
     [[nodiscard]] TRect Band(TPoint point) const;
     void Nudge(int dx, int dy, bool sizing);
     void DeleteChosen();
+    void Leave();
+    void LeadAt(TPoint point, TShiftState shift);
 
     TDesignDocument& FDocument;
     const TMetaClass* FTool = nullptr;

@@ -122,7 +122,7 @@ void TDesignSurface::Drag(TPoint point) {
 }
 
 void TDesignSurface::BeginDrag(TPoint point) {
-    if (FDocument.Selection().IsEmpty()) return;
+    if (IsLocked || FDocument.Selection().IsEmpty()) return;
     CollectMoved();
     CollectOthers();
     if (FMoved.empty()) return;
@@ -270,6 +270,9 @@ void TDesignSurface::Drop(TPoint point, TShiftState shift) {
         }
         case TDrag::Placing:
             PlaceTool(point);
+            break;
+        case TDrag::Pressed:
+            LeadAt(point, shift);
             break;
         default:
             break;

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "designer/dialogs/ComponentEditors.h"
+#include "designer/dialogs/KeysDialog.h"
 #include "designer/dialogs/TabOrderDialog.h"
 #include "designer/files/SafeFile.h"
 #include "designer/model/Clipping.h"
@@ -15,6 +16,10 @@
 #include "platform/vcl/streaming/FormText.h"
 
 namespace designer {
+
+String TextProblem(const TFormProblem& problem) {
+    return Format(L"Zeile %d, Spalte %d: %s", problem.Position.Line, problem.Position.Column, problem.Text);
+}
 
 /// Runs a command and shows what it raises.
 bool TDesignerWindow::Try(const std::function<void()>& command) {
@@ -29,6 +34,10 @@ bool TDesignerWindow::Try(const std::function<void()>& command) {
         FDialogs->ShowError(error.Message());
         return false;
     }
+}
+
+bool TDesignerWindow::TryEdit(const std::function<void()>& command) {
+    return AcceptText() && Try(command);
 }
 
 bool TDesignerWindow::MayLeave() {
@@ -115,12 +124,14 @@ bool TDesignerWindow::SaveAs() {
 // --- edits; in an editor they are about its text
 
 void TDesignerWindow::Undo() {
-    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->Undo();
-    Try([this] { FDocument.Undo(); });
+    // A value of the inspector that has been taken over is an edit of the form.
+    auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl());
+    if (editor && (editor == FTextMemo || editor->GetModified())) return editor->Undo();
+    TryEdit([this] { FDocument.Undo(); });
 }
 
 void TDesignerWindow::Redo() {
-    Try([this] { FDocument.Redo(); });
+    TryEdit([this] { FDocument.Redo(); });
 }
 
 void TDesignerWindow::Cut() {
@@ -136,19 +147,20 @@ void TDesignerWindow::Copy() {
 
 void TDesignerWindow::Paste() {
     if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->PasteFromClipboard();
-    Try([this] {
-        TComponent* parent = &FDocument.Root();
-        if (auto* leader = dynamic_cast<TControl*>(FDocument.Selection().Leader()))
-            parent = leader->AsWinControl() && leader->ControlStyle.Contains(csAcceptsControls)
-                         ? leader
-                         : &AcceptingParent(*leader);
-        PasteText(FDocument, GetClipboardText(), *parent, FSurface->Snapping.Grid);
-    });
+    TryEdit([this] { PasteText(FDocument, GetClipboardText(), PlaceForNew(), FSurface->Snapping.Grid); });
+}
+
+/// What is chosen, when it takes controls, or what that stands in.
+TWinControl& TDesignerWindow::PlaceForNew() {
+    auto* leader = dynamic_cast<TControl*>(FDocument.Selection().Leader());
+    if (!leader) return FDocument.Root();
+    const bool takesControls = leader->AsWinControl() && leader->ControlStyle.Contains(csAcceptsControls);
+    return takesControls ? *leader->AsWinControl() : AcceptingParent(*leader);
 }
 
 void TDesignerWindow::Delete() {
     if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->ClearSelection();
-    Try([this] { DeleteSelection(FDocument); });
+    TryEdit([this] { DeleteSelection(FDocument); });
 }
 
 void TDesignerWindow::ChooseAll() {
@@ -167,35 +179,61 @@ void TDesignerWindow::RenameChosen() {
     TComponent* leader = FDocument.Selection().Leader();
     TComponent& component = leader ? *leader : FDocument.Root();
     const auto name = FDialogs->AskName(component.GetName());
-    if (name && *name != component.GetName()) Try([&] { Rename(FDocument, component, *name); });
+    if (name && *name != component.GetName()) TryEdit([&] { Rename(FDocument, component, *name); });
 }
 
 void TDesignerWindow::EditChosen() {
     TComponent* leader = FDocument.Selection().Leader();
     if (leader && HasComponentEditor(*leader))
-        Try([&] { EditComponent(FDocument, *leader, *FValueDialogs); });
+        TryEdit([&] { EditComponent(FDocument, *leader, *FValueDialogs); });
 }
 
 void TDesignerWindow::EditTabOrder() {
-    Try([this] { designer::EditTabOrder(FDocument, TabOrderParent(FDocument)); });
+    TryEdit([this] { designer::EditTabOrder(FDocument, TabOrderParent(FDocument)); });
 }
 
 // --- text and preview
 
 bool TDesignerWindow::AcceptText() {
     if (!ShowsText()) return true;
-    bool accepted = false;
-    Try([&] {
-        try {
-            FDocument.SetText(L"Text ändern", ToUtf8(FTextMemo->GetText()));
-            FTypedText.reset();
-            accepted = true;
-        } catch (const EFormError& error) {
-            ShowTextPosition(error.Problem().Position);
-            throw;
-        }
-    });
-    return accepted;
+    const std::string text = ToUtf8(FTextMemo->GetText());
+    if (text == FDocument.Text()) return true;
+    try {
+        FDocument.SetText(L"Text ändern", text);
+        FTypedText.reset();
+        return true;
+    } catch (const EFormError& error) {
+        ShowTextPosition(error.Problem().Position);
+        return OfferToDiscardText(TextProblem(error.Problem()));
+    } catch (const Exception& error) {
+        return OfferToDiscardText(error.Message());
+    }
+}
+
+bool TDesignerWindow::OfferToDiscardText(const String& reason) {
+    if (!FDialogs->AskToDiscardText(reason)) return false;
+    FTypedText.reset();
+    ShowText();
+    AllowOtherEdits(true);
+    return true;
+}
+
+/// Shows the form's text; the caret stays about where it was.
+void TDesignerWindow::ShowText() {
+    const String text = FromUtf8(FDocument.Text());
+    if (FTextMemo->GetText() == text) return;
+    const TPoint caret = FTextMemo->GetCaretPos();
+    FUpdatingText = true;
+    FTextMemo->SetText(text);
+    FUpdatingText = false;
+    FTextMemo->SetCaretPos(caret);
+    FTextMemo->Perform(EM_SCROLLCARET);
+}
+
+/// While the text is no form there is nothing that the inspector and the structure could be about.
+void TDesignerWindow::AllowOtherEdits(bool value) {
+    FGrid->SetEnabled(value);
+    FStructure->SetEnabled(value);
 }
 
 void TDesignerWindow::ShowTextPosition(TFormPosition position) {
@@ -213,9 +251,7 @@ void TDesignerWindow::ToggleText() {
         return;
     }
     FGrid->Accept();
-    FUpdatingText = true;
-    FTextMemo->SetText(FromUtf8(FDocument.Text()));
-    FUpdatingText = false;
+    ShowText();
     FSurfaceScroll->Hide();
     FTextMemo->Show();
     FTextMemo->SetFocus();
@@ -223,6 +259,17 @@ void TDesignerWindow::ToggleText() {
 
 void TDesignerWindow::Preview() {
     if (AcceptText()) Try([this] { RunPreview(FDocument.Form().WriteWhole()); });
+}
+
+void TDesignerWindow::SwitchFocus() {
+    if (GetActiveControl() != FSurface)
+        FSurface->SetFocus();
+    else if (FGrid->CanFocus())
+        FGrid->FocusEditor();
+}
+
+void TDesignerWindow::ShowKeys() {
+    ShowKeysDialog();
 }
 
 }  // namespace designer

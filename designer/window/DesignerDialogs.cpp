@@ -21,7 +21,8 @@ HWND ActiveWindow() {
     return ::GetActiveWindow();
 }
 
-std::optional<String> AskFile(const String& present, DWORD flags, BOOL(WINAPI* ask)(OPENFILENAMEW*)) {
+std::optional<String> AskFile(const wchar_t* title, const String& present, DWORD flags,
+                              BOOL(WINAPI* ask)(OPENFILENAMEW*)) {
     std::array<wchar_t, 32'768> name{};
     present.copy(name.data(), name.size() - 1);
     OPENFILENAMEW dialog{};
@@ -30,6 +31,7 @@ std::optional<String> AskFile(const String& present, DWORD flags, BOOL(WINAPI* a
     dialog.lpstrFilter = Filter;
     dialog.lpstrFile = name.data();
     dialog.nMaxFile = static_cast<DWORD>(name.size());
+    dialog.lpstrTitle = title;
     dialog.lpstrDefExt = L"dfm";
     dialog.Flags = flags | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_EXPLORER;
     if (!ask(&dialog)) return std::nullopt;
@@ -68,11 +70,12 @@ TDesignerDialogs::TAnswer TDesignerDialogs::AskToSave(const String& title) {
 }
 
 std::optional<String> TDesignerDialogs::AskFileToOpen() {
-    return AskFile({}, OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST, &::GetOpenFileNameW);
+    return AskFile(L"Formular öffnen", {}, OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST, &::GetOpenFileNameW);
 }
 
 std::optional<String> TDesignerDialogs::AskFileToSave(const String& present) {
-    return AskFile(present, OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST, &::GetSaveFileNameW);
+    return AskFile(L"Formular speichern", present, OFN_OVERWRITEPROMPT | OFN_PATHMUSTEXIST,
+                   &::GetSaveFileNameW);
 }
 
 bool TDesignerDialogs::AskToReload(const String& title) {
@@ -94,6 +97,16 @@ bool TDesignerDialogs::AskToRecover(const String& title) {
                     {.Caption = L"&Verwerfen",
                      .Description = L"Dieser Stand geht verloren.",
                      .Result = mrNo,
+                     .Cancel = true});
+}
+
+bool TDesignerDialogs::AskToDiscardText(const String& reason) {
+    return AskYesNo(L"Der Text ist kein Formular. " + reason,
+                    {.Caption = L"Text &verwerfen", .Description = L"Zurück zum Formular.", .Result = mrYes},
+                    {.Caption = L"&Weiter schreiben",
+                     .Description = L"Die Einfügemarke steht an der Stelle.",
+                     .Result = mrNo,
+                     .Default = true,
                      .Cancel = true});
 }
 

@@ -25,6 +25,8 @@ public:
     [[nodiscard]] virtual bool AskToRecover(const String& title);
     /// Which of these files holds the form that the one to be opened inherits?
     [[nodiscard]] virtual std::optional<String> AskAncestor(const std::vector<String>& files);
+    /// The text that was typed is no form, for that reason: give it up?
+    [[nodiscard]] virtual bool AskToDiscardText(const String& reason);
     virtual void ShowError(const String& message);
     /// A new name for a component.
     [[nodiscard]] virtual std::optional<String> AskName(const String& present);

@@ -65,9 +65,11 @@ void TDesignerWindow::MakeMenu() {
     FEditItems.push_back(&AddItem(edit, L"&Inhalt bearbeiten …", L"Ctrl+E", [this] { EditChosen(); }));
 
     AddArrangeItems(AddSubmenu(bar, L"A&nordnen"));
+    AddViewItems(AddSubmenu(bar, L"&Ansicht"));
     TMenuItem& view = AddSubmenu(bar, L"&Formular");
     AddItem(view, L"&Vorschau", L"F9", [this] { Preview(); });
     AddItem(view, L"Als &Text", L"F12", [this] { ToggleText(); });
+    AddItem(AddSubmenu(bar, L"&Hilfe"), L"&Tasten …", L"F1", [this] { ShowKeys(); });
     FMenu->OnBeforeExecuteShortCut = {this, &TDesignerWindow::LimitDeleteKey};
     FMenu->OnAfterExecuteShortCut = {this, &TDesignerWindow::RestoreDeleteKey};
     UpdateRecentFiles(nullptr);
@@ -79,8 +81,15 @@ void TDesignerWindow::MakeMenu() {
 }
 
 void TDesignerWindow::AddArrangeItems(TMenuItem& parent) {
+    const auto add = [&](const wchar_t* caption, std::function<void()> change) {
+        AddItem(parent, caption, nullptr, [this, change = std::move(change)] { TryEdit(change); });
+    };
     const auto align = [&](const wchar_t* caption, TAlignment alignment) {
-        AddItem(parent, caption, nullptr, [this, alignment] { AlignSelection(FDocument, alignment); });
+        add(caption, [this, alignment] { AlignSelection(FDocument, alignment); });
+    };
+    using TChange = void (*)(TDesignDocument&, TDirection);
+    const auto spread = [&](const wchar_t* caption, TChange change, TDirection direction) {
+        add(caption, [this, change, direction] { change(FDocument, direction); });
     };
     align(L"&Links ausrichten", TAlignment::Left);
     align(L"&Mitten übereinander", TAlignment::HorizontalCenter);
@@ -89,23 +98,45 @@ void TDesignerWindow::AddArrangeItems(TMenuItem& parent) {
     align(L"Mitten &nebeneinander", TAlignment::VerticalCenter);
     align(L"&Unten ausrichten", TAlignment::Bottom);
     parent.NewBottomLine();
-    AddItem(parent, L"&Waagrecht verteilen", nullptr,
-            [this] { DistributeSelection(FDocument, TDirection::Horizontal); });
-    AddItem(parent, L"&Senkrecht verteilen", nullptr,
-            [this] { DistributeSelection(FDocument, TDirection::Vertical); });
-    AddItem(parent, L"Gleiche &Breite", nullptr,
-            [this] { EqualizeSelection(FDocument, TDirection::Horizontal); });
-    AddItem(parent, L"Gleiche &Höhe", nullptr,
-            [this] { EqualizeSelection(FDocument, TDirection::Vertical); });
-    AddItem(parent, L"Waagrecht &zentrieren", nullptr,
-            [this] { CenterSelection(FDocument, TDirection::Horizontal); });
-    AddItem(parent, L"Senkrecht z&entrieren", nullptr,
-            [this] { CenterSelection(FDocument, TDirection::Vertical); });
+    spread(L"&Waagrecht verteilen", &DistributeSelection, TDirection::Horizontal);
+    spread(L"&Senkrecht verteilen", &DistributeSelection, TDirection::Vertical);
+    spread(L"Gleiche &Breite", &EqualizeSelection, TDirection::Horizontal);
+    spread(L"Gleiche &Höhe", &EqualizeSelection, TDirection::Vertical);
+    spread(L"Waagrecht &zentrieren", &CenterSelection, TDirection::Horizontal);
+    spread(L"Senkrecht z&entrieren", &CenterSelection, TDirection::Vertical);
     parent.NewBottomLine();
-    AddItem(parent, L"Nach &vorn", nullptr, [this] { BringSelectionToFront(FDocument); });
-    AddItem(parent, L"Nach h&inten", nullptr, [this] { SendSelectionToBack(FDocument); });
+    add(L"Nach &vorn", [this] { BringSelectionToFront(FDocument); });
+    add(L"Nach h&inten", [this] { SendSelectionToBack(FDocument); });
     parent.NewBottomLine();
     AddItem(parent, L"&Tabulatorfolge …", nullptr, [this] { EditTabOrder(); });
+}
+
+/// Entries that switch something on and off, with a mark while it is on.
+void TDesignerWindow::AddViewItems(TMenuItem& parent) {
+    const auto add = [&parent](const wchar_t* caption, bool isOn, std::function<void(bool)> set) {
+        TMenuItem& item = AddItem(parent, caption, nullptr, nullptr);
+        item.SetChecked(isOn);
+        item.OnClick = [&item, set = std::move(set)](TObject*) {
+            item.SetChecked(!item.GetChecked());
+            set(item.GetChecked());
+        };
+    };
+    TDesignSurface& surface = *FSurface;
+    add(L"&Raster zeigen", surface.ShowGrid, [this](bool isOn) {
+        FSurface->ShowGrid = isOn;
+        FDocument.Root().Invalidate();
+    });
+    const int grid = surface.Snapping.Grid;
+    add(L"&Am Raster ausrichten", true,
+        [this, grid](bool isOn) { FSurface->Snapping.Grid = isOn ? grid : 1; });
+    add(L"An &Nachbarn ausrichten", surface.Snapping.UseGuides,
+        [this](bool isOn) { FSurface->Snapping.UseGuides = isOn; });
+    add(L"&Plätze festhalten", surface.IsLocked, [this](bool isOn) {
+        FSurface->IsLocked = isOn;
+        FSurface->UpdateMarks();
+    });
+    parent.NewBottomLine();
+    AddItem(parent, L"Formular &oder Inspektor", L"F11", [this] { SwitchFocus(); });
 }
 
 void TDesignerWindow::MakeContextMenu() {

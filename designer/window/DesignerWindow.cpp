@@ -6,6 +6,7 @@
 #include "designer/dialogs/ComponentEditors.h"
 #include "designer/inspector/InspectorPages.h"
 #include "designer/model/Arranging.h"
+#include "designer/model/Placing.h"
 #include "designer/palette/PaletteIcons.h"
 #include "header/UnitQV7SkinHeaderItems.h"
 #include "indicators/UnitQV7SkinSplitter.h"
@@ -29,6 +30,8 @@ const TMetaClass& TDesignerWindow::StaticClass() {
                                        .Component<&C::FStatus>(L"StatusPanel")
                                        .Component<&C::FClock>(L"Clock")
                                        .Method<&C::StripChoose>(L"StripChoose")
+                                       .Method<&C::StripPlace>(L"StripPlace")
+                                       .Method<&C::TextExit>(L"TextExit")
                                        .Method<&C::ClockTimer>(L"ClockTimer")
                                        .Method<&C::TextChange>(L"TextChange")
                                        .Method<&C::WindowActivate>(L"WindowActivate")
@@ -54,6 +57,12 @@ TDesignerWindow::TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDi
     FSurface = new TDesignSurface(this, FDocument);
     FSurface->SetParent(FSurfaceScroll);
     FSurface->OnToolUsed = {this, &TDesignerWindow::ToolUsed};
+    FSurface->OnToolLeft = [this] { FStrip->SetChosen(nullptr); };
+    FSurface->OnKeyDown = [this](TObject*, WORD& key, TShiftState) {
+        if (key != VK_RETURN || FSurface->GetMouseCapture()) return;
+        key = 0;
+        SwitchFocus();
+    };
     FSurface->OnOpenItem = {this, &TDesignerWindow::OpenItem};
     FSurface->OnMenu = {this, &TDesignerWindow::ShowContextMenu};
     FSurface->OnRefused = [this](const String& message) { FDialogs->ShowError(message); };
@@ -69,6 +78,8 @@ TDesignerWindow::TDesignerWindow(TComponent* AOwner, std::unique_ptr<TDesignerDi
     MakePalette();
     MakeInspector();
     DocumentChanged();
+    ShowChosen();
+    SetActiveControl(FSurface);
 }
 
 TDesignerWindow::~TDesignerWindow() {
@@ -135,11 +146,7 @@ void TDesignerWindow::DocumentChanged() {
     FGrid->UpdateLines();
     FStructureBar->UpdateComponents();
     FSurface->UpdateMarks();
-    if (ShowsText()) {
-        FUpdatingText = true;
-        FTextMemo->SetText(FromUtf8(FDocument.Text()));
-        FUpdatingText = false;
-    }
+    if (ShowsText()) ShowText();
     UpdateTitle();
     KeepWorkInTime();
 }
@@ -151,19 +158,28 @@ void TDesignerWindow::SelectionChanged() {
     FGrid->UpdateLines();
     FStructureBar->UpdateSelection();
     FSurface->UpdateMarks();
+    ShowChosen();
+}
+
+void TDesignerWindow::ShowChosen() {
     const TSelection& selection = FDocument.Selection();
+    const TDesignRoot& root = FDocument.Root();
     if (selection.Items().size() == 1)
         ShowFigures(PlaceOf(*selection.Leader()));
+    else if (selection.IsEmpty())
+        ShowStatus(Format(L"%s  –  %d × %d", root.GetName(), root.GetWidth(), root.GetHeight()));
     else
-        ShowStatus(selection.IsEmpty()
-                       ? FDocument.Root().GetName()
-                       : Format(L"%d Komponenten", static_cast<int>(selection.Items().size())));
+        ShowStatus(Format(L"%d Komponenten, voran %s", static_cast<int>(selection.Items().size()),
+                          selection.Leader()->GetName()));
 }
 
 void TDesignerWindow::ShowFigures(const TRect& place) {
     const TComponent* leader = FDocument.Selection().Leader();
-    ShowStatus(Format(L"%s: %d, %d  –  %d × %d", leader ? leader->GetName() : String(), place.Left, place.Top,
-                      place.Width(), place.Height()));
+    String text = Format(L"%s: %d, %d", leader ? leader->GetName() : String(), place.Left, place.Top);
+    // What stands on the form as an icon has no size.
+    if (place.Width() > 0 || place.Height() > 0)
+        text += Format(L"  –  %d × %d", place.Width(), place.Height());
+    ShowStatus(text);
 }
 
 void TDesignerWindow::UpdateTitle() {
@@ -175,7 +191,26 @@ void TDesignerWindow::StripChoose(TObject*) {
 }
 
 void TDesignerWindow::ToolUsed() {
+    if (FStrip->KeepsChosen())
+        FSurface->SetTool(FStrip->GetChosen());
+    else
+        FStrip->SetChosen(nullptr);
+}
+
+/// Puts a component of the pressed class into the middle of what is chosen.
+void TDesignerWindow::StripPlace(TObject*) {
+    const TMetaClass* tool = FStrip->GetChosen();
     FStrip->SetChosen(nullptr);
+    FSurface->SetTool(nullptr);
+    TryEdit([&] {
+        FDocument.Edit(L"Einfügen", [&] {
+            TWinControl& parent = PlaceForNew();
+            const TPoint middle{parent.GetClientWidth() / 2, parent.GetClientHeight() / 2};
+            Place(FDocument, *tool, parent, {middle.X, middle.Y, middle.X, middle.Y});
+            CenterSelection(FDocument, TDirection::Horizontal);
+            CenterSelection(FDocument, TDirection::Vertical);
+        });
+    });
 }
 
 void TDesignerWindow::OpenItem(TComponent* item) {
@@ -234,11 +269,16 @@ void TDesignerWindow::TextChange(TObject*) {
         (void)ParseFormText(text);
         FTypedText = ToUtf8(text);
         ShowStatus(L"Der Text ist in Ordnung");
+        AllowOtherEdits(true);
     } catch (const EFormError& error) {
-        const TFormProblem& problem = error.Problem();
-        ShowStatus(
-            Format(L"Zeile %d, Spalte %d: %s", problem.Position.Line, problem.Position.Column, problem.Text));
+        ShowStatus(TextProblem(error.Problem()));
+        AllowOtherEdits(false);
     }
+}
+
+/// What the user does next is about the form that the text says.
+void TDesignerWindow::TextExit(TObject*) {
+    if (FGrid->GetEnabled()) (void)AcceptText();
 }
 
 void TDesignerWindow::WindowActivate(TObject*) {

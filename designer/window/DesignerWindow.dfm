@@ -30,6 +30,7 @@ object DesignerWindow: TDesignerWindow
     Height = 36
     Align = alTop
     OnChoose = StripChoose
+    OnPlace = StripPlace
   end
   object StatusPanel: TPanel
     Left = 0
@@ -39,7 +40,7 @@ object DesignerWindow: TDesignerWindow
     Align = alBottom
     Alignment = taLeftJustify
     BevelOuter = bvNone
-    Color = clWhite
+    Color = 15788775
   end
   object SidePanel: TPanel
     Left = 0
@@ -126,6 +127,7 @@ object DesignerWindow: TDesignerWindow
       Font.Color = clWindowText
       Font.Height = -13
       Font.Name = 'Courier New'
+      Font.Pitch = fpFixed
       Font.Style = []
       ParentFont = False
       ScrollBars = ssBoth
@@ -133,6 +135,7 @@ object DesignerWindow: TDesignerWindow
       WantTabs = True
       WordWrap = False
       OnChange = TextChange
+      OnExit = TextExit
     end
   end
   object Clock: TTimer

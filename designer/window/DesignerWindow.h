@@ -24,6 +24,9 @@
 
 namespace designer {
 
+/// Where a text is no form, and why.
+[[nodiscard]] String TextProblem(const TFormProblem& problem);
+
 /// The designer's window: commands above, palette, inspector at the left, the form in the middle.
 class TDesignerWindow final : public TForm {
 public:
@@ -75,6 +78,9 @@ public:
     /// Switches between the form and its text. Stays with a text that can't be parsed.
     void ToggleText();
     void Preview();
+    /// Goes between the form and the inspector.
+    void SwitchFocus();
+    void ShowKeys();
 
 private:
     // DesignerWindow.cpp
@@ -89,6 +95,9 @@ private:
     void UpdateTitle();
     void StripChoose(TObject* sender);
     void ToolUsed();
+    void StripPlace(TObject* sender);
+    void TextExit(TObject* sender);
+    void ShowChosen();
     void OpenItem(TComponent* item);
     void ShowContextMenu(TPoint screen);
     void ClockTimer(TObject* sender);
@@ -102,6 +111,7 @@ private:
     void MakeMenu();
     void MakeContextMenu();
     void AddArrangeItems(TMenuItem& parent);
+    void AddViewItems(TMenuItem& parent);
     void UpdateMenu(TObject* sender);
     void LimitDeleteKey(TObject* sender);
     void RestoreDeleteKey(TObject* sender);
@@ -110,10 +120,16 @@ private:
     // DesignerCommands.cpp
     /// False when the command raised an error, which was shown.
     bool Try(const std::function<void()>& command);
+    /// The same for a change to the form: text that was typed becomes the form first.
+    bool TryEdit(const std::function<void()>& command);
+    [[nodiscard]] TWinControl& PlaceForNew();
     void OpenRecentFile(const String& name);
     [[nodiscard]] bool MayLeave();
     [[nodiscard]] bool AcceptText();
+    [[nodiscard]] bool OfferToDiscardText(const String& reason);
     void ShowTextPosition(TFormPosition position);
+    void ShowText();
+    void AllowOtherEdits(bool value);
 
     std::unique_ptr<TDesignerDialogs> FDialogs;
     std::unique_ptr<TValueDialogs> FValueDialogs;
