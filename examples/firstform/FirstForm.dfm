@@ -1,12 +1,10 @@
 object FirstForm: TFirstForm
   Left = 200
   Top = 150
-  BorderIcons = [biSystemMenu]
   BorderStyle = bsDialog
   Caption = 'Das erste Formular'
   ClientHeight = 96
   ClientWidth = 280
-  Color = clWhite
   Position = poScreenCenter
   object NameLabel: TLabel
     Left = 16

@@ -193,5 +193,70 @@ TEST_F(DesignSurfaceTest, GuidesHoldAnEdgeOnThatOfASibling) {
     EXPECT_EQ(Find<TButton>(L"Button1").GetLeft(), 107) << "nearer than the grid's 104";
 }
 
+TEST_F(DesignSurfaceTest, TabWalksThroughAllComponents) {
+    Input.ClickAt(Window(), 10, 180);
+    for (const wchar_t* name : {L"Label1", L"Button1", L"Panel1", L"Edit1", L"", L"Label1"}) {
+        Input.KeyPress(VK_TAB);
+        EXPECT_EQ(Chosen(), name);
+    }
+    Input.Chord({VK_SHIFT}, VK_TAB);
+    EXPECT_EQ(Chosen(), L"") << "the form stands before the first";
+    Input.Chord({VK_SHIFT}, VK_TAB);
+    EXPECT_EQ(Chosen(), L"Edit1");
+    EXPECT_EQ(::GetFocus(), Surface->WindowHandle());
+}
+
+TEST_F(DesignSurfaceTest, ItIsAsLargeAsTheFormWhateverSizedThat) {
+    Document->Edit(L"Größe", [this] { Document->Root().SetClientWidth(500); });
+    EXPECT_EQ(Surface->GetWidth(), Document->Root().GetWidth() + 2 * 16);
+    Document->Undo();
+    EXPECT_EQ(Surface->GetWidth(), Document->Root().GetWidth() + 2 * 16);
+}
+
+TEST_F(DesignSurfaceTest, EscapeGoesUpToWhatHoldsTheComponent) {
+    Input.ClickAt(Window(), 104 + 20, 64 + 20);
+    ASSERT_EQ(Chosen(), L"Edit1");
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_EQ(Chosen(), L"Panel1");
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_EQ(Chosen(), L"");
+}
+
+TEST_F(DesignSurfaceTest, EscapeGivesTheToolUpFirst) {
+    int left = 0;
+    Surface->OnToolLeft = [&left] { ++left; };
+    Input.ClickAt(Window(), 30, 25);
+    Surface->SetTool(&TButton::StaticClass());
+    Input.KeyPress(VK_ESCAPE);
+    EXPECT_EQ(Surface->GetTool(), nullptr);
+    EXPECT_EQ(left, 1);
+    EXPECT_EQ(Chosen(), L"Button1");
+}
+
+TEST_F(DesignSurfaceTest, AClickOnOneOfSeveralLetsItLead) {
+    Document->Selection().Set({&Find<TButton>(L"Button1"), &Find<TPanel>(L"Panel1")});
+    Input.ClickAt(Window(), 104 + 100, 64 + 80);
+    EXPECT_EQ(Chosen(), L"Panel1,Button1");
+    const std::string before = Document->Text();
+    Drag({30, 25}, {46, 41});
+    EXPECT_EQ(Chosen(), L"Panel1,Button1") << "a drag is no click";
+    EXPECT_NE(Document->Text(), before);
+}
+
+TEST_F(DesignSurfaceTest, LockedPlacesStay) {
+    Surface->IsLocked = true;
+    const std::string before = Document->Text();
+    Drag({30, 25}, {62, 57});
+    EXPECT_EQ(Chosen(), L"Button1") << "choosing still works";
+    Input.KeyPress(VK_RIGHT);
+    Input.Chord({VK_SHIFT}, VK_RIGHT);
+    Drag({16 + 80, 16 + 24}, {130, 60});
+    EXPECT_EQ(Document->Text(), before);
+    Surface->IsLocked = false;
+    Input.ClickAt(Window(), 30, 25);
+    Input.KeyPress(VK_RIGHT);
+    EXPECT_NE(Document->Text(), before);
+}
+
 }  // namespace
 }  // namespace designer

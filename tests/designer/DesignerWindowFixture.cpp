@@ -6,8 +6,21 @@
 #include "package/UnitQV7SkinRegister.h"
 #include "platform/vcl/forms/StandardClasses.h"
 #include "tests/support/Pump.h"
+#include "tests/support/SystemDialogs.h"
 
 namespace designer {
+namespace {
+
+/// The system keeps the picture of a caret until there is another one.
+void ForgetCaret() {
+    const HWND window =
+        ::CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 1, 1, nullptr, nullptr, nullptr, nullptr);
+    ::CreateCaret(window, nullptr, 1, 1);
+    ::DestroyCaret();
+    ::DestroyWindow(window);
+}
+
+}  // namespace
 
 void DesignerWindowTest::SetUp() {
     RegisterStandardClasses();
@@ -22,8 +35,7 @@ void DesignerWindowTest::TearDown() {
 }
 
 std::unique_ptr<TDesignerWindow> DesignerWindowTest::MakeWindow() {
-    auto window = std::make_unique<TDesignerWindow>(nullptr, std::make_unique<TPreparedDialogs>(Answers),
-                                                    Dir.Path() + L"\\kept");
+    auto window = std::make_unique<TDesignerWindow>(nullptr, MakeDialogs(), Dir.Path() + L"\\kept");
     window->SetBounds(0, 0, 1000, 700);
     window->Show();
     test::PumpAll();
@@ -49,6 +61,68 @@ void DesignerWindowTest::PressTool(const wchar_t* page, const wchar_t* className
 void DesignerWindowTest::ChooseLine(const wchar_t* path) {
     Window->Grid().Choose(path);
     Window->Grid().SetFocus();
+}
+
+TPropertyList DesignerWindowTest::Lines(TPropertyList::TKind kind) {
+    TPropertyList list(Document(), kind);
+    list.Refresh();
+    return list;
+}
+
+void DesignerWindowTest::TypeValue(const String& path, const String& value, TPropertyList::TKind kind) {
+    TInspectorGrid& grid = Window->Grid();
+    const TPropertyList list = Lines(kind);
+    const auto index = list.Find(path) - list.Lines().data();
+    const TRect line = grid.LineRect(static_cast<int>(index));
+    const TPoint middle{grid.ValueLeft() + 20, (line.Top + line.Bottom) / 2};
+    TWinControl& view = *grid.GetParent();
+    const auto lineInView = [&] { return view.ScreenToClient(grid.ClientToScreen(middle)).Y; };
+    const POINT overGrid = view.ClientToScreen({60, 60});
+    for (int turns = 0; turns < 60; ++turns) {
+        if (lineInView() >= TInspectorGrid::LineHeight &&
+            lineInView() < view.GetClientHeight() - TInspectorGrid::LineHeight)
+            break;
+        Input.MoveTo(overGrid);
+        Input.Wheel(lineInView() < TInspectorGrid::LineHeight ? 1 : -1);
+    }
+    Input.ClickAt(grid.WindowHandle(), middle.X, middle.Y);
+    ASSERT_EQ(grid.GetChosenPath(), path);
+    Input.Chord({VK_CONTROL}, 'A');
+    Input.KeyPress(VK_DELETE);
+    Input.Type(value);
+    Input.KeyPress(VK_RETURN);
+}
+
+void RealDialogsTest::SetUp() {
+    // The system keeps what its dialogs for files show.
+    static bool hasSeenDialogs = false;
+    if (!std::exchange(hasSeenDialogs, true)) {
+        const String there = Dir.Write(L"da.dfm", SampleFile);
+        const test::SystemDialogs user([&](test::SystemDialogUser& dialog) {
+            for (const String& name : {Dir.File(L"nirgends.dfm"), there}) {
+                dialog.WaitForDialog(L"Formular");
+                dialog.TypeInstead(name);
+                dialog.KeyPress(VK_RETURN);
+                dialog.WaitUntilLeft();
+                if (name == there) break;
+                dialog.WaitForDialog();
+                dialog.KeyPress(VK_RETURN);
+            }
+            dialog.WaitForDialog(L"Formular");
+            dialog.KeyPress(VK_ESCAPE);
+            dialog.WaitUntilLeft();
+        });
+        (void)TDesignerDialogs().AskFileToOpen();
+        (void)TDesignerDialogs().AskFileToSave({});
+    }
+    ForgetCaret();
+    DesignerWindowTest::SetUp();
+}
+
+void RealDialogsTest::TearDown() {
+    Window.reset();
+    ForgetCaret();
+    DesignerWindowTest::TearDown();
 }
 
 }  // namespace designer

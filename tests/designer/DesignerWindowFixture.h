@@ -15,6 +15,7 @@ struct TPreparedAnswers {
     bool Yes = false;
     int Questions = 0;
     std::vector<String> Errors;
+    std::vector<String> Reasons;  ///< Why a text is no form.
 };
 
 class TPreparedDialogs final : public TDesignerDialogs {
@@ -28,6 +29,10 @@ public:
     std::optional<String> AskAncestor(const std::vector<String>& files) override {
         FAnswers.Files = files;
         return FAnswers.File;
+    }
+    bool AskToDiscardText(const String& reason) override {
+        FAnswers.Reasons.push_back(reason);
+        return FAnswers.Yes;
     }
     void ShowError(const String& message) override { FAnswers.Errors.push_back(message); }
     std::optional<String> AskName(const String&) override { return FAnswers.Name; }
@@ -48,17 +53,35 @@ protected:
     void SetUp() override;
     void TearDown() override;
     std::unique_ptr<TDesignerWindow> MakeWindow();
+    [[nodiscard]] virtual std::unique_ptr<TDesignerDialogs> MakeDialogs() {
+        return std::make_unique<TPreparedDialogs>(Answers);
+    }
     TDesignDocument& Document() { return Window->Document(); }
     [[nodiscard]] HWND FormWindow() { return Document().Root().WindowHandle(); }
     /// Presses the button of the class on its palette page.
     void PressTool(const wchar_t* page, const wchar_t* className);
     /// Brings the focus to the line of the inspector.
     void ChooseLine(const wchar_t* path);
+    /// The lines of the inspector for what is chosen.
+    TPropertyList Lines(TPropertyList::TKind kind = TPropertyList::TKind::Properties);
+    /// Turns the wheel until the line can be seen, presses on its value and types another one.
+    void TypeValue(const String& path, const String& value,
+                   TPropertyList::TKind kind = TPropertyList::TKind::Properties);
     [[nodiscard]] bool TextHas(const char* part) { return Document().Text().find(part) != std::string::npos; }
 
     test::TempDir Dir;
     TPreparedAnswers Answers;
     std::unique_ptr<TDesignerWindow> Window;
+};
+
+/// A designer whose dialogs are those that its user gets.
+class RealDialogsTest : public DesignerWindowTest {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+    [[nodiscard]] std::unique_ptr<TDesignerDialogs> MakeDialogs() override {
+        return std::make_unique<TDesignerDialogs>();
+    }
 };
 
 }  // namespace designer

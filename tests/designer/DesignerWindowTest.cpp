@@ -154,7 +154,8 @@ TEST_F(DesignerWindowTest, TheTextCanBeEditedAndSaysWhereItIsWrong) {
     EXPECT_NE(Window->Status().find(L"Zeile 1,"), String::npos) << ToUtf8(Window->Status());
     Input.KeyPress(VK_F12);
     EXPECT_TRUE(Window->ShowsText()) << "it stays with a text that can't be parsed";
-    EXPECT_EQ(Answers.Errors.size(), 1u);
+    ASSERT_EQ(Answers.Reasons.size(), 1u);
+    EXPECT_EQ(Answers.Reasons[0].find(L"Zeile 1, Spalte 1: "), 0u) << ToUtf8(Answers.Reasons[0]);
 
     text.replace(text.find(L"Fertig"), 6, L"Los");
     Window->TextMemo().SetText(text);
@@ -174,7 +175,7 @@ TEST_F(DesignerWindowTest, TheCaretGoesWhereTheTextIsWrong) {
     text.insert(place, L"= ");
     Window->TextMemo().SetText(text);
     Input.KeyPress(VK_F12);
-    EXPECT_EQ(Answers.Errors.size(), 1u);
+    EXPECT_EQ(Answers.Reasons.size(), 1u);
     EXPECT_EQ(Window->TextMemo().GetSelStart(), static_cast<int>(place));
 }
 

@@ -1,5 +1,5 @@
-// The whole way with nothing but mouse and keys: every class of the package's palette page on a form, its
-// properties set, the form saved, read again and run.
+// The whole way with nothing but mouse and keys, in the dialogs of the system too: every class of the
+// package's palette page on a form, its properties set, the form saved, read again and run.
 
 #include <algorithm>
 #include <map>
@@ -9,13 +9,10 @@
 #include "platform/vcl/forms/Screen.h"
 #include "tests/designer/DesignerWindowFixture.h"
 #include "tests/support/Pump.h"
+#include "tests/support/SystemDialogs.h"
 
 namespace designer {
 namespace {
-
-constexpr char EmptyForm[] =
-    "object AllForm: TAllForm\r\n  BorderStyle = bsNone\r\n  ClientHeight = 440\r\n  ClientWidth = 640\r\n"
-    "end\r\n";
 
 /// A value other than the line's that a user might type; none for lines that are of no use here.
 std::optional<String> OtherValue(const TPropertyList& list, const TPropertyLine& line) {
@@ -39,13 +36,8 @@ std::optional<String> OtherValue(const TPropertyList& list, const TPropertyLine&
     }
 }
 
-class EndToEndTest : public DesignerWindowTest {
+class EndToEndTest : public RealDialogsTest {
 protected:
-    TPropertyList Lines() {
-        TPropertyList list(Document(), TPropertyList::TKind::Properties);
-        list.Refresh();
-        return list;
-    }
     /// Three properties of what is chosen, of different kinds where there are.
     std::vector<std::pair<String, String>> ThreeValues() {
         const TPropertyList list = Lines();
@@ -62,28 +54,15 @@ protected:
         }
         return values;
     }
-    /// Turns the wheel until the line can be seen, presses on its value and types.
-    void TypeValue(const String& path, const String& value) {
-        TInspectorGrid& grid = Window->Grid();
-        const TPropertyList list = Lines();
-        const auto index = list.Find(path) - list.Lines().data();
-        const TRect line = grid.LineRect(static_cast<int>(index));
-        const TPoint middle{grid.ValueLeft() + 20, (line.Top + line.Bottom) / 2};
-        TWinControl& view = *grid.GetParent();
-        const auto lineInView = [&] { return view.ScreenToClient(grid.ClientToScreen(middle)).Y; };
-        const POINT overGrid = view.ClientToScreen({60, 60});
-        for (int turns = 0; turns < 60; ++turns) {
-            if (lineInView() >= TInspectorGrid::LineHeight &&
-                lineInView() < view.GetClientHeight() - TInspectorGrid::LineHeight)
-                break;
-            Input.MoveTo(overGrid);
-            Input.Wheel(lineInView() < TInspectorGrid::LineHeight ? 1 : -1);
-        }
-        Input.ClickAt(grid.WindowHandle(), middle.X, middle.Y);
-        ASSERT_EQ(grid.GetChosenPath(), path);
-        Input.Chord({VK_CONTROL}, 'A');
-        Input.Type(value);
-        Input.KeyPress(VK_RETURN);
+    /// Presses the keys of a command and types the name of the file that its dialog asks for.
+    void TypeFileName(WORD key, const String& name) {
+        const test::SystemDialogs user([&name](test::SystemDialogUser& dialog) {
+            dialog.WaitForDialog(L"Formular");
+            dialog.TypeInstead(name);
+            dialog.KeyPress(VK_RETURN);
+            dialog.WaitUntilLeft();
+        });
+        Input.Chord({VK_CONTROL}, key);
     }
     [[nodiscard]] POINT OnForm(int x, int y) {
         POINT point{x, y};
@@ -93,8 +72,10 @@ protected:
 };
 
 TEST_F(EndToEndTest, EveryClassOfThePackageIsPlacedSetSavedAndRun) {
-    const String file = Dir.Write(L"all.dfm", EmptyForm);
-    Window->OpenFile(file);
+    const String file = Dir.File(L"all.dfm");
+    for (const auto& [path, value] :
+         {std::pair{L"BorderStyle", L"bsNone"}, {L"ClientHeight", L"440"}, {L"ClientWidth", L"640"}})
+        TypeValue(path, value);
     PressTool(L"QV7", L"");
     const TClassList classes = Window->Strip().Classes();
     ASSERT_EQ(classes.size(), 22u);
@@ -118,19 +99,17 @@ TEST_F(EndToEndTest, EveryClassOfThePackageIsPlacedSetSavedAndRun) {
             EXPECT_EQ(Lines().Find(path)->Text, value) << ToUtf8(name + L"." + path);
         }
     }
-    for (const String& error : Answers.Errors)
-        ADD_FAILURE() << ToUtf8(error);
     EXPECT_EQ(expected.size(), classes.size());
 
-    Input.Chord({VK_CONTROL}, 'S');
+    TypeFileName('S', file);
+    EXPECT_EQ(Window->File().Name(), file);
     const std::string saved = Dir.Read(L"all.dfm");
     EXPECT_EQ(saved, Document().Text());
     Input.Chord({VK_MENU}, VK_F4);
     EXPECT_FALSE(Window->GetVisible());
-    EXPECT_EQ(Answers.Questions, 0) << "all is saved";
 
     Window = MakeWindow();
-    Window->OpenFile(file);
+    TypeFileName('O', file);
     EXPECT_EQ(Document().Text(), saved);
     for (const auto& [name, values] : expected) {
         TComponent* component = Document().Root().FindComponent(name);
@@ -153,7 +132,6 @@ TEST_F(EndToEndTest, EveryClassOfThePackageIsPlacedSetSavedAndRun) {
                });
     Input.KeyPress(VK_F9);
     EXPECT_TRUE(ran);
-    EXPECT_TRUE(Answers.Errors.empty());
 }
 
 }  // namespace
