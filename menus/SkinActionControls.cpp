@@ -1,7 +1,7 @@
 #include "menus/SkinActionControls.h"
 
 #include "menus/MenuItemPainter.h"
-#include "platform/vcl/actions/ActionBar.h"
+#include "platform/vcl/actions/ActionClients.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/ImageList.h"
 #include "platform/vcl/menus/MenuCommands.h"
@@ -66,14 +66,9 @@ bool DrawItemInSkin(TCustomActionControl& control) {
 bool DrawButtonInSkin(TCustomActionControl& control) {
     TQV7SkinMenuItemPainter* painter = ActivePainter();
     if (!painter || control.IsSeparator()) return false;
-    TCanvas& canvas = control.GetCanvas();
-    const TRect rect = control.GetClientRect();
-    const TCustomActionBar* bar = control.GetActionBar();
-    canvas.GetBrush().SetStyle(bsSolid);
-    canvas.GetBrush().SetColor(bar ? bar->GetColor() : clBtnFace);
-    canvas.FillRect(rect);
-    painter->DrawMainMenuRootItem(control.ItemCaption(), canvas, rect, control.GetSelected(),
-                                  control.IsItemEnabled());
+    // The ground is the bar's, which has been painted.
+    painter->DrawMainMenuRootItem(control.ItemCaption(), control.GetCanvas(), control.GetClientRect(),
+                                  control.GetSelected(), control.IsItemEnabled());
     return true;
 }
 

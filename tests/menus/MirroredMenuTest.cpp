@@ -177,6 +177,10 @@ protected:
         SetQV7SkinMenuItemPainter(new TQV7SkinMenuItemPainterNice());
         ReplacementTest::TearDown();
     }
+    /// What the bar shows beside its captions.
+    [[nodiscard]] COLORREF BarGround() const {
+        return ColorToRGB(GetParam() == amsThemed ? clMenuBar : Bar->GetColor());
+    }
 };
 
 TEST_P(MirroredLookTest, EachItemLooksAsThePainterDrawsIt) {
@@ -243,13 +247,14 @@ TEST_P(MirroredLookTest, WhatTheCallbackTurnsOffLooksAsItWouldDisabled) {
 }
 
 TEST_P(MirroredLookTest, CaptionsInTheBarAreDrawnByThePainter) {
+    Bar->SetColor(0x00C0FFEE);
     Replace();
     Input.KeyPress(VK_F10);
     const Pixels shown = ReadClient(Bar->WindowHandle());
     for (std::size_t i = 0; i < 2; ++i) {
         const TCustomActionControl& control = *Bar->ActionControls()[i];
         const TRect place = control.GetBoundsRect();
-        const Pixels drawn = Drawn(place.Width(), place.Height(), ColorToRGB(Bar->GetColor()), [&](HDC dc) {
+        const Pixels drawn = Drawn(place.Width(), place.Height(), BarGround(), [&](HDC dc) {
             TCanvas canvas;
             canvas.SetHandle(dc);
             QV7SkinMenuItemPainter()->DrawMainMenuRootItem(
@@ -258,6 +263,10 @@ TEST_P(MirroredLookTest, CaptionsInTheBarAreDrawnByThePainter) {
         });
         EXPECT_TRUE(SamePixels(shown.Part(place), drawn)) << i;
     }
+    EXPECT_EQ(shown.At(shown.Width() - 1, 0), BarGround());
+    // Moved away, the highlight leaves nothing behind.
+    Input.KeyPress(VK_RIGHT);
+    EXPECT_EQ(ReadClient(Bar->WindowHandle()).At(Bar->ActionControls()[0]->GetLeft(), 5), BarGround());
     Bar->CloseMenu();
 }
 
@@ -274,7 +283,7 @@ TEST_P(MirroredLookTest, ACaptionWithADisabledActionIsPale) {
         EXPECT_EQ(Bar->ActionControls()[1]->GetSelected(), isSelected);
         EXPECT_GT(caption.Count(0x00DEC5D8), 5);
         EXPECT_EQ(caption.Count(clBlack), 0);
-        EXPECT_EQ(caption.At(0, 5), ColorToRGB(Bar->GetColor()));
+        EXPECT_EQ(caption.At(0, 5), BarGround());
         Input.KeyPress(VK_RIGHT);
     }
     Bar->CloseMenu();

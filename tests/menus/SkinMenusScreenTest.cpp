@@ -210,8 +210,14 @@ TEST_F(SkinMenusScreenTest, ColumnsStandBesideEachOther) {
         EXPECT_EQ(PlaceOf(2).top, PlaceOf(0).top);
         for (int i = 0; i < 3; ++i)
             ExpectDrawn(*root.GetItem(i), i, false);
-        Input.KeyPress(VK_ESCAPE);
+        Input.KeyPress(VK_UP);
     });
+    When([] { return IsHighlighted(2); },
+         [&] {
+             for (int i = 0; i < 3; ++i)
+                 ExpectDrawn(*root.GetItem(i), i, i == 2);
+             Input.KeyPress(VK_ESCAPE);
+         });
     Open();
 }
 
