@@ -91,6 +91,16 @@ TEST_F(PopupWindowItem, TheMouseMayGoFromTheWindowBackToTheItem) {
     EXPECT_EQ(Bar().HotObject, &PopupItem());
 }
 
+TEST_F(PopupWindowItem, TheWindowStaysWhileItsItemIsTheHotOne) {
+    MoveTo(PopupItem());
+    ::SetCursorPos(900, 700);
+    // The bar has not heard of it yet.
+    ASSERT_EQ(Bar().HotObject, &PopupItem());
+    Window().OnLeaveWindow(&Window());
+    EXPECT_TRUE(Window().GetVisible());
+    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
+}
+
 TEST_F(PopupWindowItem, LeavingTheItemHidesItsWindowAfterTheEvent) {
     MoveTo(PopupItem());
     bool shownThen = false;
