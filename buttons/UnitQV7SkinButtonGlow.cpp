@@ -1,6 +1,5 @@
+#include "buttons/ButtonRows.h"
 #include "buttons/UnitQV7SkinButton.h"
-#include "platform/vcl/controls/BasicAction.h"
-#include "platform/vcl/core/DefineClass.h"
 
 namespace qv7skin {
 
@@ -69,38 +68,15 @@ const TMetaClass& TQV7SkinButton::StaticClass() {
     using T = TQV7SkinButton;
     static const TMetaClass meta =
         DefineClass<T>(L"TQV7SkinButton", TCustomTMSAdvGlowButton::StaticClass())
-            .Property(L"Action", &T::GetAction, &T::SetAction)
+            .With(ButtonRows)
             .Property(L"Alignment", &T::GetAlignment, &T::SetAlignment)
-            .Property(L"AllowDblClick", &T::GetAllowDblClick, &T::SetAllowDblClick)
-            .Property(L"Anchors", &T::GetAnchors, &T::SetAnchors, TAnchors{akLeft, akTop})
-            .Property(L"ButtonStyle", &T::GetButtonStyle, &T::SetButtonStyle)
             .Property(L"Cancel", &T::GetCancel, &T::SetCancel, false)
-            .Property(L"Caption", &T::GetCaption, &T::SetCaption)
-            .Stored(&T::IsCaptionStored)
-            .Property(L"ClickOnSpace", &T::GetClickOnSpace, &T::SetClickOnSpace)
             .Property(L"Default", &T::GetDefault, &T::SetDefault, false)
             .Property(L"Down", &T::GetDown, &T::SetDown, false)
-            .Property(L"DrawFocusedRect", &T::GetDrawFocusedRect, &T::SetDrawFocusedRect)
-            .Property(L"DrawHoveredIfFocused", &T::GetDrawHoveredIfFocused, &T::SetDrawHoveredIfFocused)
-            .Property(L"Enabled", &T::GetEnabled, &T::SetEnabled, true)
-            .Stored(&T::IsEnabledStored)
-            .Property(L"FocusedRectMarginHorizontal", &T::GetFocusedRectMarginHorizontal,
-                      &T::SetFocusedRectMarginHorizontal)
-            .Property(L"FocusedRectMarginVertical", &T::GetFocusedRectMarginVertical,
-                      &T::SetFocusedRectMarginVertical)
-            .Property(L"Font", &T::GetFont, &T::SetFont)
-            .Stored(&T::IsFontStored)
             .Property(L"FontDisabled", &T::GetFontDisabled, &T::SetFontDisabled)
             .Property(L"FontHovered", &T::GetFontHovered, &T::SetFontHovered)
-            .Property(L"Hint", &T::GetHint, &T::SetHint)
-            .Stored(&T::IsHintStored)
             .Property(L"ModalResult", &T::GetModalResult, &T::SetModalResult, mrNone)
             .Identifiers(ModalResultIdentifiers())
-            .Property(L"ShowHint", &T::GetShowHint, &T::SetShowHint)
-            .Stored(&T::IsShowHintStored)
-            .Property(L"StretchImage", &T::GetStretchImage, &T::SetStretchImage)
-            .Property(L"TabOrder", &T::GetTabOrder, &T::SetTabOrder, -1)
-            .Property(L"TabStop", &T::GetTabStop, &T::SetTabStop, true)
             .Property(L"TextMarginHorizontal", &T::GetTextMarginHorizontal, &T::SetTextMarginHorizontal)
             .Property(L"TextMarginLeft", &T::GetTextMarginLeft, &T::SetTextMarginLeft)
             .Property(L"TextMarginVertical", &T::GetTextMarginVertical, &T::SetTextMarginVertical)
@@ -108,16 +84,7 @@ const TMetaClass& TQV7SkinButton::StaticClass() {
                       &T::SetTextOffsetDownHorizontal)
             .Property(L"TextOffsetDownVertical", &T::GetTextOffsetDownVertical, &T::SetTextOffsetDownVertical)
             .Property(L"UseSkinFonts", &T::GetUseSkinFonts, &T::SetUseSkinFonts)
-            .Property(L"Visible", &T::GetVisible, &T::SetVisible, true)
-            .Stored(&T::IsVisibleStored)
-            .Event(L"OnClick", &T::OnClick)
-            .Stored(&T::IsOnClickStored)
-            .Event(L"OnDblClick", &T::OnDblClick)
-            .Event(L"OnMouseDown", &T::OnMouseDown)
-            .Event(L"OnMouseEnter", &T::OnMouseEnter)
-            .Event(L"OnMouseLeave", &T::OnMouseLeave)
-            .Event(L"OnSetButtonSize", &T::OnSetButtonSize)
-            .Event(L"OnStateChange", &T::OnStateChange);
+            .Event(L"OnSetButtonSize", &T::OnSetButtonSize);
     return meta;
 }
 

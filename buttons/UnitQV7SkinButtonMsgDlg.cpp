@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/vcl/controls/BasicAction.h"
-#include "platform/vcl/core/DefineClass.h"
+#include "buttons/ButtonRows.h"
 #include "platform/vcl/graphics/ScreenCanvas.h"
 #include "skin/UnitGraphicsUtils.h"
 #include "skin/UnitQV7SkinColors.h"
@@ -236,46 +235,14 @@ const TMetaClass& TQV7SkinButtonMsgDlg::StaticClass() {
     using T = TQV7SkinButtonMsgDlg;
     static const TMetaClass meta =
         DefineClass<T>(L"TQV7SkinButtonMsgDlg", TCustomQV7SkinButtonMsgDlg::StaticClass())
-            .Property(L"Action", &T::GetAction, &T::SetAction)
-            .Property(L"AllowDblClick", &T::GetAllowDblClick, &T::SetAllowDblClick)
-            .Property(L"Anchors", &T::GetAnchors, &T::SetAnchors, TAnchors{akLeft, akTop})
-            .Property(L"ButtonStyle", &T::GetButtonStyle, &T::SetButtonStyle)
+            .With(ButtonRows)
             .Property(L"Cancel", &T::GetCancel, &T::SetCancel)
-            .Property(L"Caption", &T::GetCaption, &T::SetCaption)
-            .Stored(&T::IsCaptionStored)
-            .Property(L"ClickOnSpace", &T::GetClickOnSpace, &T::SetClickOnSpace)
             .Property(L"Default", &T::GetDefault, &T::SetDefault)
             .Property(L"Description", &T::GetDescription, &T::SetDescription)
             .Property(L"Down", &T::GetDown, &T::SetDown)
-            .Property(L"DrawFocusedRect", &T::GetDrawFocusedRect, &T::SetDrawFocusedRect)
-            .Property(L"DrawHoveredIfFocused", &T::GetDrawHoveredIfFocused, &T::SetDrawHoveredIfFocused)
-            .Property(L"Enabled", &T::GetEnabled, &T::SetEnabled, true)
-            .Stored(&T::IsEnabledStored)
-            .Property(L"FocusedRectMarginHorizontal", &T::GetFocusedRectMarginHorizontal,
-                      &T::SetFocusedRectMarginHorizontal)
-            .Property(L"FocusedRectMarginVertical", &T::GetFocusedRectMarginVertical,
-                      &T::SetFocusedRectMarginVertical)
-            .Property(L"Font", &T::GetFont, &T::SetFont)
-            .Stored(&T::IsFontStored)
-            .Property(L"Hint", &T::GetHint, &T::SetHint)
-            .Stored(&T::IsHintStored)
             .Property(L"ImageList", &T::GetImageList, &T::SetImageList)
             .Property(L"ModalResult", &T::GetModalResult, &T::SetModalResult)
-            .Identifiers(ModalResultIdentifiers())
-            .Property(L"ShowHint", &T::GetShowHint, &T::SetShowHint)
-            .Stored(&T::IsShowHintStored)
-            .Property(L"StretchImage", &T::GetStretchImage, &T::SetStretchImage)
-            .Property(L"TabOrder", &T::GetTabOrder, &T::SetTabOrder, -1)
-            .Property(L"TabStop", &T::GetTabStop, &T::SetTabStop, true)
-            .Property(L"Visible", &T::GetVisible, &T::SetVisible, true)
-            .Stored(&T::IsVisibleStored)
-            .Event(L"OnClick", &T::OnClick)
-            .Stored(&T::IsOnClickStored)
-            .Event(L"OnDblClick", &T::OnDblClick)
-            .Event(L"OnMouseDown", &T::OnMouseDown)
-            .Event(L"OnMouseEnter", &T::OnMouseEnter)
-            .Event(L"OnMouseLeave", &T::OnMouseLeave)
-            .Event(L"OnStateChange", &T::OnStateChange);
+            .Identifiers(ModalResultIdentifiers());
     return meta;
 }
 

@@ -24,32 +24,45 @@ constexpr int ChoiceSpacing = 9;
 /// Where the icon and the arrows of the choices stand: behind the margin of the buttons.
 constexpr int IconLeft = ChoiceMargin + 3;
 
-/// Breaks a text into lines of at most that width, between words where it can.
-std::vector<String> BreakLines(StringView text, const TFont& font, int width) {
+/// Adds the lines of a paragraph, broken between words where that keeps them within the width.
+void BreakParagraph(const String& paragraph, TCanvas& canvas, int width, TStrings& lines) {
+    String line;
+    for (std::size_t at = 0; at < paragraph.size();) {
+        const std::size_t end = std::min(paragraph.find(L' ', at), paragraph.size());
+        const String word = paragraph.substr(at, end - at);
+        const String longer = line.empty() ? word : line + L' ' + word;
+        const bool fits = line.empty() || canvas.TextWidth(longer) <= width;
+        if (!fits) lines.Add(line);
+        line = fits ? longer : word;
+        at = end + 1;
+    }
+    lines.Add(line);
+}
+
+/// Breaks the lines of a text that are wider than that many pixels.
+void BreakLines(const TStrings& text, const TFont& font, int width, TStrings& lines) {
     TScreenCanvas canvas;
     canvas.SetFont(font);
-    std::vector<String> lines;
-    TStringList paragraphs;
-    paragraphs.SetText(String(text));
-    for (int i = 0; i < paragraphs.GetCount(); ++i) {
-        String line;
-        const String paragraph = paragraphs.Get(i);
-        for (std::size_t at = 0; at < paragraph.size();) {
-            const std::size_t end = std::min(paragraph.find(L' ', at), paragraph.size());
-            const String word = paragraph.substr(at, end - at);
-            const String longer = line.empty() ? word : line + L' ' + word;
-            if (!line.empty() && canvas.TextWidth(longer) > width) {
-                lines.push_back(line);
-                line = word;
-            } else {
-                line = longer;
-            }
-            at = end + 1;
-        }
-        lines.push_back(line);
-    }
-    return lines;
+    for (int i = 0; i < text.GetCount(); ++i)
+        BreakParagraph(text.Get(i), canvas, width, lines);
 }
+
+/// A dialog for the length of a scope. The active form owns it for its place on the screen, and may take it
+/// along if it is freed meanwhile.
+class TShownDialog {
+public:
+    TShownDialog() : FDialog(new TfrmQV7SkinMessageDialog(Screen().GetActiveForm())), FGuard(*FDialog) {}
+    ~TShownDialog() {
+        if (FGuard.IsAlive()) delete FDialog;
+    }
+    TShownDialog(const TShownDialog&) = delete;
+    TShownDialog& operator=(const TShownDialog&) = delete;
+    TfrmQV7SkinMessageDialog* operator->() const { return FDialog; }
+
+private:
+    TfrmQV7SkinMessageDialog* FDialog;
+    TLifeGuard FGuard;
+};
 
 TLabel* AddLabel(TForm& form, int size) {
     auto* label = new TLabel(&form);
@@ -176,10 +189,8 @@ int TfrmQV7SkinMessageDialog::ArrangeChoices(int top, int width) {
         choice->SetWidth(width - 2 * ChoiceMargin);
         static_cast<void>(choice->GetTextHeight());  // brings the description's font up to date
         TStringList lines;
-        const int room = choice->GetTextArea().Width();
-        for (const String& line :
-             BreakLines(choice->GetDescription().GetText(), choice->GetFontDescription(), room))
-            lines.Add(line);
+        BreakLines(choice->GetDescription(), choice->GetFontDescription(), choice->GetTextArea().Width(),
+                   lines);
         if (!lines.Equals(choice->GetDescription())) choice->SetDescription(lines);
         const int images = choice->GetImageList() ? choice->GetImageList()->GetHeight() : 0;
         const int height = std::max(choice->GetTextHeight(), images) + 2 * ChoicePadding;
@@ -230,26 +241,14 @@ void TfrmQV7SkinMessageDialog::Dispatch(TMessage& message) {
 
 TModalResult QV7SkinMessageDialog(const String& Caption, const String& Text, TQV7SkinMessageIcon Icon,
                                   std::span<const TQV7SkinMessageChoice> Choices, const String& Detail) {
-    // The active form owns it for its place on the screen, and may take it along if it is freed meanwhile.
-    auto* dialog = new TfrmQV7SkinMessageDialog(Screen().GetActiveForm());
-    const TLifeGuard guard(*dialog);
-    const auto free = [&] {
-        if (guard.IsAlive()) delete dialog;
-    };
-    try {
-        dialog->SetCaption(Caption);
-        dialog->SetMessageText(Text);
-        dialog->SetDetail(Detail);
-        dialog->SetMessageIcon(Icon);
-        for (const TQV7SkinMessageChoice& choice : Choices)
-            dialog->AddChoice(choice);
-        const TModalResult result = dialog->ShowModal();
-        free();
-        return result;
-    } catch (...) {
-        free();
-        throw;
-    }
+    const TShownDialog dialog;
+    dialog->SetCaption(Caption);
+    dialog->SetMessageText(Text);
+    dialog->SetDetail(Detail);
+    dialog->SetMessageIcon(Icon);
+    for (const TQV7SkinMessageChoice& choice : Choices)
+        dialog->AddChoice(choice);
+    return dialog->ShowModal();
 }
 
 }  // namespace qv7skin
