@@ -52,6 +52,7 @@ void WriteShots(TMainForm& form, const String& folder) {
     int index = 0;
     for (const TPageInfo& page : GalleryPages()) {
         form.OpenPage(index++);
+        form.SetActiveControl(nullptr);  // a focus frame would show in every picture
         const int count = form.CurrentPage().ShotCount();
         for (int shot = 0; shot < count; ++shot) {
             const String number = count == 1 ? String() : L"-" + IntToStr(shot + 1);

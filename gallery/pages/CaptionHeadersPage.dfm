@@ -31,8 +31,8 @@ object CaptionHeadersPage: TCaptionHeadersPage
     Height = 22
     Grey = False
     UseSkinFont = False
-    Font.Color = clWhite
-    Font.Style = []
+    Font.Color = 16765056
+    Font.Style = [fsBold]
     Caption = 'Dunkel, eigene Schrift'
   end
   object Header5: TQV7SkinHeader

@@ -53,7 +53,7 @@ public:
 protected:
     void Paint() override {
         TCanvas& canvas = GetCanvas();
-        DrawPartHeading(16, L"Jede Art bei 0, 1, 42, 99 und 100 Prozent");
+        DrawPartHeading(16, L"Alle Arten bei 0, 1, 42, 99 und 100 Prozent");
         for (std::size_t i = 0; i < Percentages.size(); ++i)
             DrawNote(canvas, TRect::OfSize(ColumnLeft(static_cast<int>(i)), 50, 104, 16),
                      IntToStr(Percentages[i]) + L" %", DT_CENTER);
