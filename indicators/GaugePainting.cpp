@@ -7,8 +7,8 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "skin/utils/Rounding.h"
 
-// How a gauge draws itself. Each picture is put together in memory and copied in one step. Positions in the
-// text's rules are relative to the paint rectangle: the bitmap without its border.
+// How a gauge draws itself. Each picture is put together in memory and copied in one step. The rectangle that
+// the parts are drawn in is the bitmap without its border.
 
 namespace qv7skin {
 namespace {

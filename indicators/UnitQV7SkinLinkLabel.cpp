@@ -6,11 +6,11 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Picture.h"
 #include "skin/UnitGraphicsUtils.h"
+#include "skin/UnitQV7SkinColors.h"
 
 namespace qv7skin {
 namespace {
 
-constexpr TColor LinkColor = 0x00D78112;
 constexpr int Gap = 4;
 constexpr int GrayStrength = 50;
 
@@ -68,7 +68,7 @@ TQV7SkinLinkLabel::TQV7SkinLinkLabel(TComponent* AOwner)
       FGrayedPicture(std::make_unique<TPicture>()) {
     SetLayout(tlCenter);
     FPicture->OnChange = {this, &TQV7SkinLinkLabel::PictureChanged};
-    GetFont().SetColor(LinkColor);
+    GetFont().SetColor(GetQV7SkinColorLinkText());
     SetCursor(crHandPoint);
 }
 

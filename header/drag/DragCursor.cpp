@@ -6,12 +6,12 @@
 #include "platform/vcl/forms/Screen.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Canvas.h"
+#include "skin/UnitQV7SkinColors.h"
 
 namespace qv7skin {
 namespace {
 
 constexpr TColor Transparent = 0x00FF00FF;
-constexpr TColor AccentBlue = 0x00D78112;
 constexpr int Extent = 32;
 
 void DrawCursor(TCanvas& canvas) {
@@ -22,7 +22,7 @@ void DrawCursor(TCanvas& canvas) {
     canvas.GetPen().SetColor(clBlack);
     canvas.GetBrush().SetColor(clWhite);
     canvas.Polygon(arrow);
-    canvas.GetPen().SetColor(AccentBlue);
+    canvas.GetPen().SetColor(GetQV7SkinColorLinkText());
     constexpr std::array tab{TPoint(11, 27), TPoint(13, 19), TPoint(25, 19), TPoint(27, 27)};
     canvas.Polygon(tab);
 }

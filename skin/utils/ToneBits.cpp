@@ -113,8 +113,7 @@ void DimBits(const TBitmapBits& bits, int percent) {
     WithPixelSize(bits.BytesPerPixel, [&]<int PixelSize>() {
         for (int y = 0; y < bits.Height; ++y) {
             std::uint8_t* const row = bits.Row(y);
-            const bool isPlain = percent >= 0 && percent <= 100;
-            const int done = isPlain ? LightenBlocks<PixelSize>(row, bits.Width, percent) : 0;
+            const int done = percent >= 0 ? LightenBlocks<PixelSize>(row, bits.Width, percent) : 0;
             LightenRow<PixelSize>(row + done * PixelSize, bits.Width - done, table);
         }
     });
