@@ -35,7 +35,6 @@ void TCustomMaskingPanel::Loaded() {
     TComponent::Loaded();
     if (Control) Control->FreeNotification(this);
     if (FMaskWhenLoaded) SetMasked(true);
-    FMaskWhenLoaded = false;
 }
 
 void TCustomMaskingPanel::Mask() {

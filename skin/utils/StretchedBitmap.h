@@ -20,7 +20,9 @@ public:
     TStretchedBitmap();
     ~TStretchedBitmap() override;
 
-    [[nodiscard]] const TBitmap& GetBitmap() const { return *FBitmap; }
+    /// The picture, owned. One that is filled in place gives its middle column with the first display;
+    /// changed again after that, it needs `Init`.
+    [[nodiscard]] TBitmap& GetBitmap() const { return *FBitmap; }
     /// Takes over a copy of the picture; null empties it.
     void SetBitmap(const TBitmap* Source);
     /// A copy of the column at `SplitX`, one pixel wide.

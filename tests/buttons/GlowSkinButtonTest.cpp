@@ -144,6 +144,21 @@ TEST_F(GlowSkinButtonOnForm, GlowsBlueUnderTheMouse) {
     EXPECT_GT(GetRValue(shown.At(50, 23)), 0x21);
 }
 
+TEST_F(GlowSkinButtonOnForm, GlowsUnderTheMouseAlsoWhenItIsOn) {
+    Button->SetButtonStyle(bxsToggle);
+    Button->SetDown(true);
+    PumpAll();
+    const Pixels rest = Shown();
+    EXPECT_EQ(rest.At(50, 23), 0x00C66021u);
+    Input.MoveTo(Button->WindowHandle(), 50, 12);
+    const Pixels hot = Shown();
+    EXPECT_EQ(hot.At(50, 0), rest.At(50, 0));
+    EXPECT_EQ(hot.At(1, 1), rest.At(1, 1));
+    EXPECT_GT(GetRValue(hot.At(50, 23)), GetRValue(rest.At(50, 23)));
+    Input.MoveAway();
+    EXPECT_TRUE(test::PumpUntil([&] { return Shown().At(50, 23) == rest.At(50, 23); }));
+}
+
 TEST_F(GlowSkinButtonOnForm, TellsItsStateAndItsClicks) {
     int changes = 0, clicks = 0;
     Button->OnStateChange = [&](TObject* sender) {

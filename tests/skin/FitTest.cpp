@@ -33,6 +33,12 @@ TEST(ProportionalDestRectTest, TheOtherSideDecidesWhenThatIsTooMuch) {
     EXPECT_EQ(ProportionalDestRect(100, 200, 20, 100, true), TRect(0, 30, 20, 70));
 }
 
+TEST(ProportionalDestRectTest, AHeightThatJustFitsKeepsTheWidth) {
+    // 10 / 1.5 is 6.67, and 6 pixels there are; from the height the width would be 9.
+    EXPECT_EQ(ProportionalDestRect(3, 2, 10, 6, false), TRect(0, 0, 10, 6));
+    EXPECT_EQ(ProportionalDestRect(2, 3, 6, 10, false), TRect(0, 0, 6, 10));
+}
+
 TEST(ProportionalDestRectTest, ASquareCountsAsHigh) {
     EXPECT_EQ(ProportionalDestRect(10, 10, 100, 50, false), TRect(25, 0, 75, 50));
     EXPECT_EQ(ProportionalDestRect(10, 10, 50, 100, false), TRect(0, 25, 50, 75));

@@ -453,6 +453,37 @@ TEST_F(MaskingPanelTest, ThePictureCoversTheWholeMask) {
     EXPECT_EQ(masking.GetMaskPanel()->GetControl(0)->GetBoundsRect(), TRect(0, 0, 250, 160));
 }
 
+/// Tells whether the panel showed while its picture was made.
+class TWatchingEllipse : public TMaskingPanelEllipse {
+public:
+    using TMaskingPanelEllipse::TMaskingPanelEllipse;
+    std::unique_ptr<TBitmap> CreateMask(TSize Size) override {
+        Showed = GetMaskPanel()->GetVisible();
+        return TMaskingPanelEllipse::CreateMask(Size);
+    }
+    bool Showed = true;
+};
+
+TEST_F(MaskingPanelTest, ThePanelShowsOnlyWhenItHasItsShape) {
+    TWatchingEllipse masking(nullptr);
+    masking.Control = FMasked;
+    masking.Mask();
+    EXPECT_FALSE(masking.Showed);
+    EXPECT_TRUE(masking.GetMaskPanel()->GetVisible());
+}
+
+TEST_F(MaskingPanelTest, BeingLoadedAgainMasksOnlyWhenTheFileSaysSo) {
+    TMaskingPanelImagesFromResource masking(nullptr);
+    masking.BeginLoading();
+    masking.SetMasked(true);
+    masking.Control = FMasked;
+    masking.EndLoading();
+    masking.Unmask();
+    masking.BeginLoading();
+    masking.EndLoading();
+    EXPECT_FALSE(masking.GetMasked());
+}
+
 // --- Many times
 
 TEST_F(MaskingPanelTest, MaskingManyTimesLeavesNothingBehind) {

@@ -200,6 +200,22 @@ TEST_P(FailingStepTest, RaisesItsMessageAndLeavesNothingBehind) {
 
 INSTANTIATE_TEST_SUITE_P(Steps, FailingStepTest, ::testing::Range(0, static_cast<int>(std::size(Steps))));
 
+int sourceMapMode = 0;
+
+BOOL WINAPI NotingBlit(HDC, int, int, int, int, HDC from, int, int, DWORD) {
+    if (sourceMapMode == 0) sourceMapMode = GetMapMode(from);
+    return TRUE;
+}
+
+TEST_F(OneShotDrawingTest, TheSourceHasTheMappingModeOfTheCanvas) {
+    const auto bitmap = BitmapOf(FPicture);
+    const TMemoryDC canvas = CreateMemoryDC();
+    SetMapMode(canvas.Get(), MM_LOMETRIC);
+    sourceMapMode = 0;
+    DrawTransparentSteps(canvas.Get(), bitmap->GetHandle(), 0, 0, 0, 0, Magenta, NotingBlit);
+    EXPECT_EQ(sourceMapMode, MM_LOMETRIC);
+}
+
 TEST_F(OneShotDrawingTest, ACanvasWithoutDeviceContextFailsInTheFirstStep) {
     const auto bitmap = BitmapOf(FPicture);
     HDC gone = nullptr;

@@ -3,6 +3,7 @@
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Picture.h"
 #include "platform/vcl/stdctrls/Image.h"
+#include "tests/support/FormTest.h"
 #include "tests/support/SkinTesting.h"
 
 namespace qv7skin {
@@ -56,6 +57,18 @@ TEST_F(StretchedBitmapTest, AnEmptyPictureDoesNotInitialize) {
     EXPECT_FALSE(stretched.GetInitialized());
     stretched.DisplayInImage(&FImage);
     EXPECT_EQ(FImage.GetPicture().GetGraphic(), nullptr);
+}
+
+TEST_F(StretchedBitmapTest, APictureFilledInPlaceGivesItsColumnWithTheFirstDisplay) {
+    const Pixels picture = RandomColors(4).Picture(7, 6);
+    TStretchedBitmap stretched;
+    stretched.GetBitmap().Assign(BitmapOf(picture).get());
+    EXPECT_FALSE(stretched.GetInitialized());
+    FImage.SetBounds(0, 0, 30, 6);
+    stretched.DisplayInImage(&FImage);
+    EXPECT_TRUE(stretched.GetInitialized());
+    EXPECT_EQ(stretched.GetSplitX(), 3);
+    EXPECT_TRUE(SamePixels(PixelsOf(Shown()), Widened(picture, 30, 6)));
 }
 
 TEST_F(StretchedBitmapTest, ShowsThePictureWidenedInTheMiddle) {
@@ -116,6 +129,17 @@ TEST_F(StretchedBitmapTest, ANewPictureReplacesTheColumn) {
     EXPECT_EQ(stretched.GetSplitX(), 2);
     EXPECT_EQ(stretched.GetCenterColumn().GetHeight(), 3);
     EXPECT_EQ(test::ReadDC(stretched.GetCenterColumn().GetSourceDC(), {0, 0, 1, 3}).Count(clBlue), 3);
+}
+
+class StretchedBitmapOnFormTest : public test::FormTest {};
+
+TEST_F(StretchedBitmapOnFormTest, ThePictureIsOnTheScreenAtOnce) {
+    auto* image = Make<TImage>({10, 10, 60, 20});
+    test::PumpAll();
+    TStretchedBitmap stretched;
+    stretched.SetBitmap(BitmapOf(8, 10, clRed).get());
+    stretched.DisplayInImage(image);
+    EXPECT_EQ(test::ReadClient(Form().GetHandle()).Count(clRed), 50 * 10);
 }
 
 }  // namespace

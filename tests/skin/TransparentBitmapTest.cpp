@@ -145,6 +145,14 @@ TEST_F(TransparentBitmapTest, CenteredMeansVerticallyAndAnOffsetFromTheLeft) {
     EXPECT_TRUE(SamePixels(PixelsOf(*ground), Expected(6, 1 + (15 - 7) / 2)));
 }
 
+TEST_F(TransparentBitmapTest, CenteredKeepsTheOddRowBelow) {
+    TTransparentBitmap transparent(Magenta);
+    transparent.SetBitmap(BitmapOf(FPicture).get());
+    const auto ground = BitmapOf(FGround);
+    transparent.DrawCentered(ground->GetCanvas(), {2, 1, 18, 11}, 4);
+    EXPECT_TRUE(SamePixels(PixelsOf(*ground), Expected(6, 1 + 1)));  // (10 - 7) div 2
+}
+
 TEST_F(TransparentBitmapTest, CenteredInTooLittleRoomReachesOverItsTop) {
     TTransparentBitmap transparent(Magenta);
     transparent.SetBitmap(BitmapOf(FPicture).get());
