@@ -121,8 +121,6 @@ void TFlatSpinEditInteger::CreateWnd() {
     TCustomEdit::CreateWnd();
     FButtons.Create(WindowHandle());
     FButtons.SetEnabled(GetEnabled());
-    ::SendMessageW(WindowHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN,
-                   MAKELPARAM(Border + 1, ButtonWidth + Border + 1));
     PlaceButtons();
 }
 
@@ -206,6 +204,12 @@ void TFlatSpinEditInteger::Dispatch(TMessage& message) {
         case WM_NCHITTEST:
             TCustomEdit::Dispatch(message);
             if (message.Result == HTNOWHERE) message.Result = HTCLIENT;
+            return;
+        case WM_SETFONT:
+            TCustomEdit::Dispatch(message);
+            // The system's margins are those of the font now.
+            ::SendMessageW(WindowHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN,
+                           MAKELPARAM(Border + 1, ButtonWidth + Border + 1));
             return;
         case CM_FONTCHANGED:
             TCustomEdit::Dispatch(message);

@@ -19,9 +19,11 @@ public:
     using TEdit::TEdit;
 
 protected:
-    void CreateWnd() override {
-        TEdit::CreateWnd();
-        ::SendMessageW(WindowHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
+    void Dispatch(TMessage& message) override {
+        TEdit::Dispatch(message);
+        // The system's margins are those of the font now.
+        if (message.Msg == WM_SETFONT)
+            ::SendMessageW(WindowHandle(), EM_SETMARGINS, EC_LEFTMARGIN | EC_RIGHTMARGIN, 0);
     }
 };
 

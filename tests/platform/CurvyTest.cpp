@@ -1,5 +1,6 @@
 #include "platform/tms/CurvyEdit.h"
 #include "platform/tms/CurvyPanel.h"
+#include "platform/vcl/graphics/Font.h"
 #include "platform/vcl/stdctrls/Edit.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/PixelProbe.h"
@@ -127,6 +128,16 @@ TEST_F(Curvy, ADisabledEditorTakesNoFocus) {
     EXPECT_FALSE(edit->GetEdit().GetEnabled());
     Input.ClickAt(Form().GetHandle(), 50, 22);
     EXPECT_FALSE(edit->Focused());
+}
+
+TEST_F(Curvy, TheTextStandsSixPixelsFromTheEdgeInEveryFont) {
+    auto* edit = Make<TCurvyEdit>(TRect::OfSize(10, 10, 100, 25));
+    for (const int size : {-11, -15}) {
+        edit->GetFont().SetHeight(size);
+        EXPECT_EQ(edit->GetEdit().GetLeft(), 6);
+        EXPECT_EQ(edit->GetEdit().GetWidth(), 100 - 2 * 6);
+        EXPECT_EQ(::SendMessageW(edit->GetEdit().GetHandle(), EM_GETMARGINS, 0, 0), 0);
+    }
 }
 
 TEST_F(Curvy, PasswordsStayHidden) {

@@ -134,6 +134,25 @@ TEST_F(FlatEditors, ButtonsAreDisabledWithTheSpinEditAlsoBeforeItsWindow) {
     EXPECT_TRUE(::IsWindowEnabled(early.ButtonsHandle()));
 }
 
+TEST_F(FlatEditors, ButtonsStandInsideTheLineBesideTheNumber) {
+    RECT place{};
+    ::GetWindowRect(Spin().ButtonsHandle(), &place);
+    ::MapWindowPoints(nullptr, Form().GetHandle(), reinterpret_cast<POINT*>(&place), 2);
+    EXPECT_EQ(place.left, 10 + 80 - 1 - 15);
+    EXPECT_EQ(place.right, 10 + 80 - 1);
+    EXPECT_EQ(place.top, 10 + (21 - 13) / 2);
+    EXPECT_EQ(place.bottom, 10 + 21 - 2);
+}
+
+TEST_F(FlatEditors, TheNumberKeepsOffTheButtonsInEveryFont) {
+    const auto margins = [this] { return ::SendMessageW(Spin().GetHandle(), EM_GETMARGINS, 0, 0); };
+    EXPECT_EQ(margins(), MAKELONG(2, 15 + 2));
+    Spin().GetFont().SetHeight(-15);
+    EXPECT_EQ(margins(), MAKELONG(2, 15 + 2));
+    Spin().RecreateWnd();
+    EXPECT_EQ(margins(), MAKELONG(2, 15 + 2));
+}
+
 TEST_F(FlatEditors, TheNumberStaysInTheMiddle) {
     const auto top = [this] {
         RECT window{};
