@@ -2,6 +2,7 @@
 
 #include "buttons/Namespace.h"
 #include "platform/vcl/controls/BasicAction.h"
+#include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/controls/WinControl.h"
 #include "platform/vcl/core/DefineClass.h"
 
@@ -13,7 +14,7 @@ inline constexpr auto ButtonRows = []<class C>(TClassDefinition<C>&& table) -> T
     return std::move(table)
         .Property(L"Action", &C::GetAction, &C::SetAction)
         .Property(L"AllowDblClick", &C::GetAllowDblClick, &C::SetAllowDblClick)
-        .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+        .With(AnchorsRow)
         .Property(L"ButtonStyle", &C::GetButtonStyle, &C::SetButtonStyle)
         .Property(L"Caption", &C::GetCaption, &C::SetCaption)
         .Stored(&C::IsCaptionStored)

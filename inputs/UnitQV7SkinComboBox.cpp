@@ -7,6 +7,7 @@
 #include "inputs/InputColors.h"
 #include "inputs/InputNumbers.h"
 #include "platform/tms/CurvyRows.h"
+#include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Canvas.h"
 
@@ -251,19 +252,18 @@ void TCustomQV7SkinComboBox::DoKeyPress(TObject*, wchar_t& Key) {
 
 const TMetaClass& TQV7SkinComboBox::StaticClass() {
     using C = TQV7SkinComboBox;
-    static const TMetaClass meta =
-        DefineClass<C>(L"TQV7SkinComboBox", TCustomQV7SkinComboBox::StaticClass())
-            .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
-            .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
-            .Property(L"Items", &C::GetItems, &C::SetItems)
-            .Property(L"ItemIndex", &C::GetItemIndex, &C::SetItemIndex)
-            .Property(L"Sorted", &C::GetSorted, &C::SetSorted)
-            .Property(L"Text", &C::GetText, &C::SetText)
-            .Property(L"Style", &C::GetStyle, &C::SetStyle)
-            .Event(L"OnChange", &C::OnChange)
-            .Event(L"OnClick", &C::OnClick)
-            .Event(L"OnKeyPress", &C::OnKeyPress);
+    static const TMetaClass meta = DefineClass<C>(L"TQV7SkinComboBox", TCustomQV7SkinComboBox::StaticClass())
+                                       .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
+                                       .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
+                                       .With(AnchorsRow)
+                                       .Property(L"Items", &C::GetItems, &C::SetItems)
+                                       .Property(L"ItemIndex", &C::GetItemIndex, &C::SetItemIndex)
+                                       .Property(L"Sorted", &C::GetSorted, &C::SetSorted)
+                                       .Property(L"Text", &C::GetText, &C::SetText)
+                                       .Property(L"Style", &C::GetStyle, &C::SetStyle)
+                                       .Event(L"OnChange", &C::OnChange)
+                                       .Event(L"OnClick", &C::OnClick)
+                                       .Event(L"OnKeyPress", &C::OnKeyPress);
     return meta;
 }
 

@@ -4,6 +4,7 @@
 
 #include "inputs/DropButton.h"
 #include "platform/tms/CurvyRows.h"
+#include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/stdctrls/Label.h"
 
@@ -300,7 +301,7 @@ const TMetaClass& TQV7SkinComboBoxCustomDropDown::StaticClass() {
             .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
             .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
             .Property(L"Align", &C::GetAlign, &C::SetAlign, alNone)
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+            .With(AnchorsRow)
             .Property(L"Text", &C::GetText, &C::SetText)
             .Event(L"OnDropDown", &C::OnDropDown)
             .Event(L"OnCloseUp", &C::OnCloseUp);

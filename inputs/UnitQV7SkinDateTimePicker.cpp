@@ -4,6 +4,7 @@
 
 #include "inputs/InputColors.h"
 #include "platform/tms/CurvyRows.h"
+#include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DateFormats.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/stdctrls/Label.h"
@@ -220,7 +221,7 @@ const TMetaClass& TQV7SkinDateTimePicker::StaticClass() {
             .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
             .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
             .Property(L"Align", &C::GetAlign, &C::SetAlign, alNone)
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+            .With(AnchorsRow)
             .Property(L"Date", &C::GetDate, &C::SetDate, 0)
             .Property(L"DateFormat", &C::GetDateFormat, nullptr)
             .Property(L"EditMask", &C::GetDateEditMask, nullptr)

@@ -5,6 +5,7 @@
 #include "inputs/InputColors.h"
 #include "inputs/InputNumbers.h"
 #include "platform/tms/CurvyRows.h"
+#include "platform/vcl/controls/PublishedRows.h"
 
 namespace qv7skin {
 namespace {
@@ -133,19 +134,18 @@ void TCustomQV7SkinSpinEdit::DoKeyPress(TObject*, wchar_t& Key) {
 
 const TMetaClass& TQV7SkinSpinEdit::StaticClass() {
     using C = TQV7SkinSpinEdit;
-    static const TMetaClass meta =
-        DefineClass<C>(L"TQV7SkinSpinEdit", TCustomQV7SkinSpinEdit::StaticClass())
-            .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
-            .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
-            .Property(L"Increment", &C::GetIncrement, &C::SetIncrement, 1)
-            .Property(L"MaxValue", &C::GetMaxValue, &C::SetMaxValue)
-            .Property(L"MinValue", &C::GetMinValue, &C::SetMinValue)
-            .Property(L"Value", &C::GetValue, &C::SetValue)
-            .Property(L"Enabled", &C::GetEnabled, &C::SetEnabled, true)
-            .Event(L"OnChange", &C::OnChange)
-            .Event(L"OnClick", &C::OnClick)
-            .Event(L"OnKeyPress", &C::OnKeyPress);
+    static const TMetaClass meta = DefineClass<C>(L"TQV7SkinSpinEdit", TCustomQV7SkinSpinEdit::StaticClass())
+                                       .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
+                                       .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)
+                                       .With(AnchorsRow)
+                                       .Property(L"Increment", &C::GetIncrement, &C::SetIncrement, 1)
+                                       .Property(L"MaxValue", &C::GetMaxValue, &C::SetMaxValue)
+                                       .Property(L"MinValue", &C::GetMinValue, &C::SetMinValue)
+                                       .Property(L"Value", &C::GetValue, &C::SetValue)
+                                       .Property(L"Enabled", &C::GetEnabled, &C::SetEnabled, true)
+                                       .Event(L"OnChange", &C::OnChange)
+                                       .Event(L"OnClick", &C::OnClick)
+                                       .Event(L"OnKeyPress", &C::OnKeyPress);
     return meta;
 }
 

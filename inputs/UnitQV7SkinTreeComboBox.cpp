@@ -4,6 +4,7 @@
 
 #include "inputs/DropButton.h"
 #include "inputs/InputColors.h"
+#include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Canvas.h"
@@ -44,7 +45,7 @@ const TMetaClass& TCustomQV7SkinTreeComboBox::StaticClass() {
     using C = TCustomQV7SkinTreeComboBox;
     static const TMetaClass meta =
         DefineClass<C>(L"TCustomQV7SkinTreeComboBox", TCustomQV7SkinContainer::StaticClass())
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+            .With(AnchorsRow)
             .Property(L"Enabled", &C::GetEnabled, &C::SetEnabled, true)
             .Property(L"TabOrder", &C::GetTabOrder, &C::SetTabOrder, -1)
             .Property(L"TabStop", &C::GetTabStop, &C::SetTabStop, false)

@@ -57,7 +57,7 @@ bool IsAtDefault(const TPublishedProperty& row, TPersistent& holder, const TPers
     const bool isComponent = dynamic_cast<const TComponent*>(&holder) != nullptr;
     if (isComponent && !row.IsStored(holder)) return true;
     if (row.Kind() == TPropertyKind::Nested) return IsNestedAtDefault(row, holder, model);
-    if (row.Default()) return row.Get(holder) == *row.Default();
+    if (const auto value = row.DefaultFor(holder)) return row.Get(holder) == *value;
     return row.Get(holder) == row.Get(model);
 }
 
@@ -247,8 +247,8 @@ void TPropertyList::Reset(const String& path) {
             const TPublishedProperty& row = RowFor(*line.Row, *holder);
             if (row.Kind() == TPropertyKind::Event)
                 row.Event(*holder)->Clear();
-            else if (row.Default())
-                row.Set(*holder, *row.Default());
+            else if (const auto value = row.DefaultFor(*holder))
+                row.Set(*holder, *value);
             else
                 row.Set(*holder, row.Get(*line.Models[i]));
         }

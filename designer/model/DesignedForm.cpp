@@ -44,9 +44,11 @@ bool ResetProperty(TPersistent& object, StringView path) {
         case TPropertyKind::Nested:
             return false;
         default:
-            if (!place.Row->Default()) return false;
-            place.Row->Set(*place.Holder, *place.Row->Default());
-            return true;
+            if (const auto value = place.Row->DefaultFor(*place.Holder)) {
+                place.Row->Set(*place.Holder, *value);
+                return true;
+            }
+            return false;
     }
 }
 

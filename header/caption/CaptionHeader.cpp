@@ -17,7 +17,7 @@ const TMetaClass& TQV7SkinHeader::StaticClass() {
             .Property(L"Caption", &C::GetCaption, &C::SetCaption)
             .Stored(&C::IsCaptionStored)
             .Property(L"Align", &C::GetAlign, &C::SetAlign, alNone)
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+            .With(AnchorsRow)
             .Property(L"UseSkinFont", &C::GetUseSkinFont, &C::SetUseSkinFont);
     return meta;
 }

@@ -33,7 +33,7 @@ const TMetaClass& TQV7SkinHeaderControl::StaticClass() {
         DefineClass<C>(L"TQV7SkinHeaderControl", TCustomControl::StaticClass())
             .Property(L"AllowItemDrag", &C::GetAllowItemDrag, &C::SetAllowItemDrag)
             .Property(L"PopupMenu", &C::GetPopupMenu, &C::SetPopupMenu)
-            .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+            .With(AnchorsRow)
             .Property(L"Align", &C::GetAlign, &C::SetAlign, alNone)
             .Property(L"HideClippedItems", &C::GetHideClippedItems, &C::SetHideClippedItems)
             .Property(L"ChevronDropDown", &C::GetChevronDropDown, &C::SetChevronDropDown)

@@ -144,7 +144,8 @@ TEST_P(FormFilesOfClasses, ANewComponentIsWrittenWithoutItsDefaults) {
         const TFormProperty* written = object.FindProperty(row->Name());
         const bool isReference =
             row->Kind() == TPropertyKind::Event || row->Kind() == TPropertyKind::Component;
-        const bool isDefault = isReference || (row->Default() && row->Get(*scene.Subject) == *row->Default());
+        const auto byDefault = row->DefaultFor(*scene.Subject);
+        const bool isDefault = isReference || (byDefault && row->Get(*scene.Subject) == *byDefault);
         if (isDefault) {
             EXPECT_EQ(written, nullptr) << ToUtf8(row->Name());
         }

@@ -89,6 +89,7 @@ void TControl::DefineProperties(TFiler& filer) {
 
 void TControl::Loaded() {
     TComponent::Loaded();
+    FAnchorsRead = false;
     // While it was being read its limits did not count.
     if (HasLimits(*FConstraints)) SetBounds(FLeft, FTop, FWidth, FHeight);
     if (FActionLink) ActionChange(FActionLink->GetAction(), true);

@@ -83,8 +83,11 @@ public:
     void SetAlign(TAlign value);
     [[nodiscard]] TAnchors GetAnchors() const { return FAnchors; }
     void SetAnchors(TAnchors value);
+    /// Anchors that are those of the alignment follow it; others stay as they are.
     [[nodiscard]] TSizeConstraints& GetConstraints() const { return *FConstraints; }
     void SetConstraints(const TSizeConstraints& value) { FConstraints->Assign(&value); }
+    /// The anchors that go with `Align`; form files leave them out.
+    [[nodiscard]] TAnchors GetAlignAnchors() const;
     [[nodiscard]] bool GetAutoSize() const { return FAutoSize; }
     virtual void SetAutoSize(bool value);
     void BringToFront();
@@ -226,7 +229,6 @@ public:
     [[nodiscard]] bool IsVisibleStored() const;
     [[nodiscard]] bool IsHintStored() const;
     [[nodiscard]] bool IsOnClickStored() const;
-    [[nodiscard]] bool IsAnchorsStored() const;
 
 protected:
     friend class TWinControl;
@@ -372,6 +374,7 @@ private:
     bool FInLayout = false;
     int FWheelRest = 0;
     String FText;
+    bool FAnchorsRead = false;  ///< By the form file that is being read; `Align` behind them leaves them.
     String FHint;
     std::unique_ptr<TFont> FFont;
     std::unique_ptr<TSizeConstraints> FConstraints;

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <utility>
 
 #include "platform/vcl/controls/Control.h"
 #include "platform/vcl/controls/WinControl.h"
@@ -7,7 +8,6 @@
 namespace vcl {
 namespace {
 
-/// The anchors that go with an alignment and need not be written to form files.
 TAnchors AnchorsOf(TAlign align) {
     switch (align) {
         case alTop:
@@ -124,9 +124,8 @@ void TControl::SetAutoSize(bool value) {
 
 void TControl::SetAlign(TAlign value) {
     if (value == FAlign) return;
-    // Anchors that only mirrored the old alignment mirror the new one.
-    if (FAnchors == AnchorsOf(FAlign)) FAnchors = AnchorsOf(value);
-    FAlign = value;
+    const TAlign former = std::exchange(FAlign, value);
+    if (!FAnchorsRead && FAnchors == AnchorsOf(former)) FAnchors = AnchorsOf(value);
     UpdateAnchorBase();
     RequestAlign();
 }
@@ -137,11 +136,12 @@ void TControl::SetAnchors(TAnchors value) {
     UpdateAnchorBase();
 }
 
-bool TControl::IsAnchorsStored() const {
-    return FAnchors != AnchorsOf(FAlign);
+TAnchors TControl::GetAlignAnchors() const {
+    return AnchorsOf(FAlign);
 }
 
 void TControl::RequestAlign() {
+    if (IsInState(csLoading)) FAnchorsRead = true;
     if (FParent) FParent->AlignControl(this);
 }
 

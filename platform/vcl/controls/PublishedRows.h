@@ -12,11 +12,18 @@ namespace vcl {
 // Groups of rows that most controls publish alike, for tables of published properties:
 // `DefineClass<TButton>(...).With(PlacementRows).With(MouseRows)`.
 
+/// `Anchors`.
+inline constexpr auto AnchorsRow = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
+    return std::move(table)
+        .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+        .DefaultFrom(&C::GetAlignAnchors);
+};
+
 /// `Align`, `Anchors`, `Constraints`.
 inline constexpr auto PlacementRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
     return std::move(table)
         .Property(L"Align", &C::GetAlign, &C::SetAlign, alNone)
-        .Property(L"Anchors", &C::GetAnchors, &C::SetAnchors, TAnchors{akLeft, akTop})
+        .With(AnchorsRow)
         .Property(L"Constraints", &C::GetConstraints, &C::SetConstraints);
 };
 

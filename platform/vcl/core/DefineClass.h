@@ -327,6 +327,15 @@ public:
         FProperties.back()->FStored = [](const TObject&) { return false; };
         return std::move(*this);
     }
+    /// What form files leave out of the last row follows from other properties: `rule`, a getter, tells it.
+    template <class Rule>
+    TClassDefinition&& DefaultFrom(Rule rule) && {
+        FProperties.back()->FDefaultRule = [rule](const TObject& object) -> std::optional<TPropertyValue> {
+            using Value = std::remove_cvref_t<std::invoke_result_t<Rule, const T&>>;
+            return detail::ToPropertyValue<Value>(std::invoke(rule, static_cast<const T&>(object)));
+        };
+        return std::move(*this);
+    }
     /// Names for single values of the last row.
     TClassDefinition&& Identifiers(std::span<const TIdentifier> identifiers) && {
         FProperties.back()->FIdentifiers = identifiers;

@@ -55,8 +55,15 @@ public:
     [[nodiscard]] std::span<const wchar_t* const> ElementNames() const { return FElementNames; }
     /// Names for single numbers (colours, cursors); empty where there are none.
     [[nodiscard]] std::span<const TIdentifier> Identifiers() const { return FIdentifiers; }
-    /// The value that a form file leaves out; none for properties that are always written when stored.
+    /// The value of a new object, as the table says; none for properties that are always written when stored.
     [[nodiscard]] const std::optional<TPropertyValue>& Default() const { return FDefault; }
+    /// The value that a form file leaves out of `object`: what its other properties make of it, or else
+    /// `Default`.
+    [[nodiscard]] std::optional<TPropertyValue> DefaultFor(const TObject& object) const {
+        return FDefaultRule ? FDefaultRule(object) : FDefault;
+    }
+    /// True when `DefaultFor` is not the same for all objects.
+    [[nodiscard]] bool HasDefaultRule() const { return FDefaultRule != nullptr; }
     /// Least and greatest value of an Integer, Boolean, Enumeration or Set (the bits).
     [[nodiscard]] std::int64_t Minimum() const { return FMinimum; }
     [[nodiscard]] std::int64_t Maximum() const { return FMaximum; }
@@ -88,6 +95,7 @@ protected:
     std::int64_t FMinimum = 0;
     std::int64_t FMaximum = 0;
     std::function<bool(const TObject&)> FStored;
+    std::function<std::optional<TPropertyValue>(const TObject&)> FDefaultRule;
 };
 
 /// Names of an enumeration's values by ordinal. Each published enumeration specialises it beside its

@@ -69,6 +69,8 @@ private:
     void WriteNested(TProperties& properties, const TSubject& subject);
     void WriteEvent(TProperties& properties, const TSubject& subject) const;
     void WriteSimple(TProperties& properties, const TSubject& subject) const;
+    /// True for a value that the file need not say.
+    [[nodiscard]] static bool IsUsual(const TSubject& subject, const TPropertyValue& value);
     void WriteReference(TProperties& properties, const TSubject& subject) const;
     [[nodiscard]] TFormValue CollectionValue(TCollection& collection);
     /// A method as form files name it.

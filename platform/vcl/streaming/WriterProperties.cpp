@@ -148,11 +148,17 @@ void TWriter::WriteProperty(TProperties& properties, const TSubject& subject) {
     }
 }
 
+bool TWriter::IsUsual(const TSubject& subject, const TPropertyValue& value) {
+    if (!subject.AncestorRow) return subject.Row.DefaultFor(subject.Object) == value;
+    if (subject.AncestorRow->Get(*subject.Ancestor) != value) return false;
+    // Where another property decides about the default, reading that one would change the ancestor's value.
+    return !subject.Row.HasDefaultRule() ||
+           subject.AncestorRow->DefaultFor(*subject.Ancestor) == subject.Row.DefaultFor(subject.Object);
+}
+
 void TWriter::WriteSimple(TProperties& properties, const TSubject& subject) const {
     const TPropertyValue value = subject.Row.Get(subject.Object);
-    const bool isUsual = subject.AncestorRow ? subject.AncestorRow->Get(*subject.Ancestor) == value
-                                             : subject.Row.Default() == value;
-    if (!isUsual) properties.push_back({subject.Name(), SimpleValue(subject.Row, value), {}});
+    if (!IsUsual(subject, value)) properties.push_back({subject.Name(), SimpleValue(subject.Row, value), {}});
 }
 
 void TWriter::WriteNested(TProperties& properties, const TSubject& subject) {

@@ -180,7 +180,7 @@ TEST_F(Layout, AFrameThatAppearsWithTheWindowMovesNoAnchoredChild) {
 TEST_F(Layout, AnchorsFollowTheAlignmentUntilTheyAreSet) {
     auto* child = Child(alTop, {0, 0, 10, 10});
     EXPECT_EQ(child->GetAnchors(), (TAnchors{akLeft, akTop, akRight}));
-    EXPECT_FALSE(child->IsAnchorsStored());
+    EXPECT_EQ(child->GetAlignAnchors(), child->GetAnchors());
     child->SetAlign(alNone);
     EXPECT_EQ(child->GetAnchors(), (TAnchors{akLeft, akTop}));
     child->SetAnchors({akRight});
