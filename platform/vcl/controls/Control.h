@@ -80,6 +80,8 @@ public:
     [[nodiscard]] TPoint ClientToParent(TPoint point, const TWinControl* ancestor = nullptr) const;
     [[nodiscard]] TPoint ParentToClient(TPoint point, const TWinControl* ancestor = nullptr) const;
     [[nodiscard]] TAlign GetAlign() const { return FAlign; }
+    /// A control that was aligned at the side and comes to lie at the top or bottom, or the other way round,
+    /// swaps width and height, except while a form file is read.
     void SetAlign(TAlign value);
     [[nodiscard]] TAnchors GetAnchors() const { return FAnchors; }
     void SetAnchors(TAnchors value);

@@ -25,6 +25,13 @@ TAnchors AnchorsOf(TAlign align) {
     }
 }
 
+/// True for alignments at edges that cross each other.
+bool IsTurn(TAlign from, TAlign to) {
+    const auto lies = [](TAlign align) { return align == alTop || align == alBottom; };
+    const auto stands = [](TAlign align) { return align == alLeft || align == alRight; };
+    return (lies(from) && stands(to)) || (stands(from) && lies(to));
+}
+
 int Limited(int value, int minimum, int maximum) {
     if (maximum > 0) value = std::min(value, maximum);
     return minimum > 0 ? std::max(value, minimum) : value;
@@ -127,10 +134,14 @@ void TControl::SetAlign(TAlign value) {
     const TAlign former = std::exchange(FAlign, value);
     if (!FAnchorsRead && FAnchors == AnchorsOf(former)) FAnchors = AnchorsOf(value);
     UpdateAnchorBase();
-    RequestAlign();
+    const TLifeGuard guard(*this);
+    // A bar takes its thickness along.
+    if (IsTurn(former, value) && !IsInState(csLoading)) SetBounds(FLeft, FTop, FHeight, FWidth);
+    if (guard.IsAlive()) RequestAlign();
 }
 
 void TControl::SetAnchors(TAnchors value) {
+    if (IsInState(csLoading)) FAnchorsRead = true;
     if (value == FAnchors) return;
     FAnchors = value;
     UpdateAnchorBase();
@@ -141,7 +152,6 @@ TAnchors TControl::GetAlignAnchors() const {
 }
 
 void TControl::RequestAlign() {
-    if (IsInState(csLoading)) FAnchorsRead = true;
     if (FParent) FParent->AlignControl(this);
 }
 

@@ -127,13 +127,17 @@ void TSplitter::SetResizeStyle(TResizeStyle value) {
     FResizeStyle = value;
 }
 
-/// A splitter that comes to lie the other way takes its thickness and its cursor along.
+/// A splitter that comes to lie the other way takes its thickness and its cursor along, also when it was not
+/// aligned in between.
 void TSplitter::RequestAlign() {
     const bool lies = GetAlign() == alTop || GetAlign() == alBottom;
-    if ((lies || IsUpright()) && FWasUpright == lies) {
+    const bool isAligned = lies || IsUpright();
+    const bool wasAligned = std::exchange(FWasAligned, isAligned);
+    if (isAligned && FWasUpright == lies) {
         FWasUpright = !lies;
         if (GetCursor() == crHSplit || GetCursor() == crVSplit) SetCursor(lies ? crVSplit : crHSplit);
-        if (!IsInState(csLoading)) return SetBounds(GetLeft(), GetTop(), GetHeight(), GetWidth());
+        if (!wasAligned && !IsInState(csLoading))
+            return SetBounds(GetLeft(), GetTop(), GetHeight(), GetWidth());
     }
     TGraphicControl::RequestAlign();
 }

@@ -87,7 +87,8 @@ private:
     bool FBeveled = false;
     int FMinSize = 30;
     TResizeStyle FResizeStyle = rsPattern;
-    bool FWasUpright = true;
+    bool FWasUpright = true;   ///< When it was aligned last.
+    bool FWasAligned = false;  ///< At an edge, when it was laid out last.
 
     // --- while the user drags
     TControl* FControl = nullptr;  ///< What is resized.

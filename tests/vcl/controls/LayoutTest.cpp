@@ -186,7 +186,30 @@ TEST_F(Layout, AnchorsFollowTheAlignmentUntilTheyAreSet) {
     child->SetAnchors({akRight});
     child->SetAlign(alLeft);
     EXPECT_EQ(child->GetAnchors(), TAnchors{akRight});
-    EXPECT_TRUE(child->IsAnchorsStored());
+    EXPECT_EQ(child->GetAlignAnchors(), (TAnchors{akLeft, akTop, akBottom}));
+}
+
+TEST_F(Layout, AControlThatTurnsTakesItsThicknessAlong) {
+    auto* bar = Child(alTop, {0, 0, 10, 25});
+    ASSERT_EQ(bar->GetBoundsRect(), TRect(0, 0, 400, 25));
+    bar->SetAlign(alRight);
+    EXPECT_EQ(bar->GetBoundsRect(), TRect(375, 0, 400, 300));
+    bar->SetAlign(alLeft);
+    EXPECT_EQ(bar->GetBoundsRect(), TRect(0, 0, 25, 300));
+    bar->SetAlign(alBottom);
+    EXPECT_EQ(bar->GetBoundsRect(), TRect(0, 275, 400, 300));
+    bar->SetAlign(alClient);
+    bar->SetAlign(alLeft);
+    EXPECT_EQ(bar->GetBoundsRect(), TRect(0, 0, 400, 300)) << "what filled the form has no thickness";
+}
+
+TEST_F(Layout, AControlFreedWhileItTurnsDoesNoHarm) {
+    auto* bar = Child(alTop, {0, 0, 10, 25});
+    bar->OnResize = [&](TObject*) {
+        if (bar) std::exchange(bar, nullptr)->Free();
+    };
+    bar->SetAlign(alLeft);
+    EXPECT_EQ(Form->GetControlCount(), 0);
 }
 
 TEST_F(Layout, ScrollByMovesBothKindsOfChildren) {
