@@ -42,7 +42,7 @@ void TFlatRadioButton::UncheckOthers() {
         const auto& present = GetParent()->WinControls();
         if (sibling == this || std::ranges::find(present, sibling) == present.end()) continue;
         auto* radio = dynamic_cast<TFlatRadioButton*>(sibling);
-        if (radio && radio->FGroupIndex == FGroupIndex) radio->SetChecked(false);
+        if (radio && radio->FGroupIndex == FGroupIndex) radio->Check(false);
     }
 }
 

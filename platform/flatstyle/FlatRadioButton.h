@@ -5,7 +5,8 @@
 namespace flatstyle {
 
 /// A radio button with a flat circle. Of those with the same parent and the same `GroupIndex` one is checked
-/// at most; the arrow keys go from one to the next and check it.
+/// at most; the arrow keys go from one to the next and check it. The one that loses its mark raises no
+/// `OnClick`.
 class TFlatRadioButton : public TFlatToggle {
 public:
     using TFlatToggle::TFlatToggle;

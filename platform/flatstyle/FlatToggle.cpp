@@ -27,12 +27,18 @@ void TFlatToggle::SetColors(int Index, TColor Value) {
 
 void TFlatToggle::SetChecked(bool Value) {
     if (Value == FChecked) return;
-    FChecked = Value;
+    const TLifeGuard guard(*this);
+    Check(Value);
+    if (guard.IsAlive() && !IsInState(csLoading)) TPushControl::Click();
+}
+
+void TFlatToggle::Check(bool value) {
+    if (value == FChecked) return;
+    FChecked = value;
     Invalidate();
     const TLifeGuard guard(*this);
     NotifyAccessible(*this, EVENT_OBJECT_STATECHANGE);
-    CheckedChanged();
-    if (guard.IsAlive() && !IsInState(csLoading)) TPushControl::Click();
+    if (guard.IsAlive()) CheckedChanged();
 }
 
 void TFlatToggle::Click() {

@@ -42,6 +42,9 @@ public:
 protected:
     void Dispatch(TMessage& message) override;
     void Paint() override;
+    [[nodiscard]] bool CanBeChecked() const override { return true; }
+    [[nodiscard]] bool IsChecked() const override { return FChecked; }
+    void Check(bool value) override;
     /// What a click of the user makes of `Checked`.
     [[nodiscard]] virtual bool CheckedAfterClick() const = 0;
     /// Draws the sign on `GetCanvas()`.

@@ -2,6 +2,8 @@
 #include "platform/flatstyle/FlatGroupBox.h"
 #include "platform/flatstyle/FlatPanel.h"
 #include "platform/flatstyle/FlatRadioButton.h"
+#include "platform/vcl/actions/Action.h"
+#include "platform/vcl/actions/ActionList.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/stdctrls/Edit.h"
@@ -154,9 +156,49 @@ TEST_F(FlatControls, ARadioButtonMayBeFreedByItsClick) {
     auto* a = Make<TFlatRadioButton>(TRect::OfSize(10, 10, 80, 17));
     auto* b = Make<TFlatRadioButton>(TRect::OfSize(10, 30, 80, 17));
     a->SetChecked(true);
-    a->OnClick = [&](TObject*) { delete b; };
+    b->OnClick = [&](TObject*) { delete b; };
     Input.ClickAt(b->GetHandle(), 5, 8);
     EXPECT_EQ(Form().GetControlCount(), 1);
+}
+
+TEST_F(FlatControls, OnlyTheRadioButtonThatIsChosenClicks) {
+    auto* a = Make<TFlatRadioButton>(TRect::OfSize(10, 10, 80, 17));
+    auto* b = Make<TFlatRadioButton>(TRect::OfSize(10, 30, 80, 17));
+    a->SetChecked(true);
+    std::string clicked;
+    a->OnClick = [&](TObject*) { clicked += 'a'; };
+    b->OnClick = [&](TObject*) { clicked += 'b'; };
+    Input.ClickAt(b->GetHandle(), 5, 8);
+    EXPECT_FALSE(a->GetChecked());
+    EXPECT_EQ(clicked, "b");
+}
+
+TEST_F(FlatControls, RadioButtonsFollowTheActionsOfAGroup) {
+    auto* list = new TActionList(&Form());
+    TAction* actions[2];
+    TFlatRadioButton* radios[2];
+    std::string runs;
+    for (int i = 0; i < 2; ++i) {
+        actions[i] = new TAction(&Form());
+        actions[i]->SetActionList(list);
+        actions[i]->SetGroupIndex(1);
+        actions[i]->SetAutoCheck(true);
+        actions[i]->SetOnExecute([&runs, i](TObject*) { runs += static_cast<char>('0' + i); });
+        radios[i] = Make<TFlatRadioButton>(TRect::OfSize(10, 10 + 20 * i, 80, 17));
+        radios[i]->SetAction(actions[i]);
+    }
+    actions[0]->SetChecked(true);
+    EXPECT_TRUE(radios[0]->GetChecked());
+    EXPECT_EQ(runs, "");
+    Input.ClickAt(radios[1]->GetHandle(), 5, 8);
+    EXPECT_FALSE(radios[0]->GetChecked());
+    EXPECT_TRUE(radios[1]->GetChecked());
+    EXPECT_FALSE(actions[0]->GetChecked());
+    EXPECT_TRUE(actions[1]->GetChecked());
+    EXPECT_EQ(runs, "1");
+    actions[0]->SetChecked(true);
+    EXPECT_TRUE(radios[0]->GetChecked());
+    EXPECT_FALSE(radios[1]->GetChecked());
 }
 
 TEST_F(FlatControls, APanelHasTwoLines) {

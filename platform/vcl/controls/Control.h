@@ -83,13 +83,13 @@ public:
     /// A control that was aligned at the side and comes to lie at the top or bottom, or the other way round,
     /// swaps width and height, except while a form file is read.
     void SetAlign(TAlign value);
+    /// Anchors that are those of the alignment follow it; others stay as they are.
     [[nodiscard]] TAnchors GetAnchors() const { return FAnchors; }
     void SetAnchors(TAnchors value);
-    /// Anchors that are those of the alignment follow it; others stay as they are.
-    [[nodiscard]] TSizeConstraints& GetConstraints() const { return *FConstraints; }
-    void SetConstraints(const TSizeConstraints& value) { FConstraints->Assign(&value); }
     /// The anchors that go with `Align`; form files leave them out.
     [[nodiscard]] TAnchors GetAlignAnchors() const;
+    [[nodiscard]] TSizeConstraints& GetConstraints() const { return *FConstraints; }
+    void SetConstraints(const TSizeConstraints& value) { FConstraints->Assign(&value); }
     [[nodiscard]] bool GetAutoSize() const { return FAutoSize; }
     virtual void SetAutoSize(bool value);
     void BringToFront();
@@ -278,8 +278,9 @@ protected:
     /// Asks the parent to lay out its children.
     virtual void RequestAlign();
     virtual void SetClientSize(TSize value);
-    /// Takes over what changed in the linked action; with `checkDefaults` only into values still at their
-    /// default.
+    /// Takes over the values of the linked action, with `checkDefaults` only where the control's are still at
+    /// their default. Called when the action is linked and when the control is loaded; later changes come
+    /// through the link, one by one.
     virtual void ActionChange(TObject* sender, bool checkDefaults);
     [[nodiscard]] virtual std::unique_ptr<TBasicActionLink> CreateActionLink();
     [[nodiscard]] TBasicActionLink* GetActionLink() const { return FActionLink.get(); }
@@ -335,7 +336,6 @@ private:
     bool NegotiateSize(int& width, int& height);
     void ApplyConstraints(int& width, int& height);
     void StoreBounds(const TRect& bounds);
-    void DoActionChange(TObject* sender);
     [[nodiscard]] bool DragsInstead();
     void PrepareMouseMessage(TMessage& message);
     // Handlers of the message map.
@@ -374,9 +374,9 @@ private:
     bool FAutoSize = false;
     bool FTakingParentFont = false;
     bool FInLayout = false;
+    bool FAnchorsRead = false;  ///< By the form file that is being read; `Align` behind them leaves them.
     int FWheelRest = 0;
     String FText;
-    bool FAnchorsRead = false;  ///< By the form file that is being read; `Align` behind them leaves them.
     String FHint;
     std::unique_ptr<TFont> FFont;
     std::unique_ptr<TSizeConstraints> FConstraints;

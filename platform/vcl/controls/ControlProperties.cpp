@@ -142,17 +142,12 @@ void TControl::SetAction(TBasicAction* value) {
     ControlStyle.Include(csActionClient);
     if (!FActionLink) FActionLink = CreateActionLink();
     FActionLink->SetAction(value);
-    FActionLink->OnChange = {this, &TControl::DoActionChange};
     value->FreeNotification(this);
     ActionChange(value, value->IsInState(csLoading));
 }
 
 std::unique_ptr<TBasicActionLink> TControl::CreateActionLink() {
     return std::make_unique<TControlActionLink>(*this);
-}
-
-void TControl::DoActionChange(TObject* sender) {
-    if (FActionLink && sender == FActionLink->GetAction()) ActionChange(sender, false);
 }
 
 void TControl::ActionChange(TObject* sender, bool checkDefaults) {

@@ -58,11 +58,13 @@ inline constexpr auto FontRows = []<class C>(TClassDefinition<C>&& table) -> TCl
 inline constexpr auto StateRows = []<class C>(TClassDefinition<C>&& table) -> TClassDefinition<C>&& {
     return std::move(table)
         .Property(L"Enabled", &C::GetEnabled, &C::SetEnabled, true)
+        .Stored(&C::IsEnabledStored)
         .Property(L"ParentShowHint", &C::GetParentShowHint, &C::SetParentShowHint, true)
         .Property(L"PopupMenu", &C::GetPopupMenu, &C::SetPopupMenu)
         .Property(L"ShowHint", &C::GetShowHint, &C::SetShowHint)
         .Stored(&C::IsShowHintStored)
-        .Property(L"Visible", &C::GetVisible, &C::SetVisible, true);
+        .Property(L"Visible", &C::GetVisible, &C::SetVisible, true)
+        .Stored(&C::IsVisibleStored);
 };
 
 /// `DragCursor`, `DragKind`, `DragMode`.

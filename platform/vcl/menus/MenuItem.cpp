@@ -233,13 +233,8 @@ void TMenuItem::SetAction(TBasicAction* value) {
     }
     if (!FActionLink) FActionLink = std::make_unique<TMenuActionLink>(*this);
     FActionLink->SetAction(value);
-    FActionLink->OnChange = {this, &TMenuItem::DoActionChange};
     value->FreeNotification(this);
     ActionChange(value, value->IsInState(csLoading));
-}
-
-void TMenuItem::DoActionChange(TObject* sender) {
-    if (FActionLink && sender == FActionLink->GetAction()) ActionChange(sender, false);
 }
 
 void TMenuItem::ActionChange(TObject* sender, bool checkDefaults) {

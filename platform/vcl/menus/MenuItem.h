@@ -182,8 +182,8 @@ public:
 protected:
     void Notification(TComponent* component, TOperation operation) override;
     void Loaded() override;
-    /// Takes over what changed in the linked action; with `checkDefaults` only into values still at their
-    /// default.
+    /// Takes over the values of the linked action, with `checkDefaults` only where the item's are still at
+    /// their default. Later changes come through the link, one by one.
     virtual void ActionChange(TObject* sender, bool checkDefaults);
     /// Draws the item without a handler's help.
     virtual void DrawDefault(TCanvas& canvas, const TRect& rect, TOwnerDrawState state);
@@ -196,7 +196,6 @@ private:
 
     template <class V>
     bool Store(V& field, const V& value);
-    void DoActionChange(TObject* sender);
     void PictureChanged(TObject* sender);
     void TurnSiblingsOff();
     /// Announces a change of this item; `rebuild`: its submenu has other items.

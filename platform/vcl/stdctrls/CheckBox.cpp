@@ -2,8 +2,21 @@
 
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/stdctrls/CheckedActionLink.h"
 
 namespace vcl {
+
+class TCustomCheckBox::TActionLink final : public TCheckedActionLink {
+public:
+    explicit TActionLink(TCustomCheckBox& client) : TCheckedActionLink(client), FCheckBox(client) {}
+
+protected:
+    [[nodiscard]] bool IsClientChecked() const override { return FCheckBox.GetChecked(); }
+    void CheckClient(bool value) override { FCheckBox.ShowState(value ? cbChecked : cbUnchecked); }
+
+private:
+    TCustomCheckBox& FCheckBox;
+};
 
 const TMetaClass& TCustomCheckBox::StaticClass() {
     static const TMetaClass meta =
@@ -17,9 +30,32 @@ TCustomCheckBox::TCustomCheckBox(TComponent* AOwner) : TButtonControl(AOwner) {
 
 void TCustomCheckBox::SetState(TCheckBoxState value) {
     if (value == FState) return;
+    ShowState(value);
+    if (!IsInState(csLoading)) Click();
+}
+
+void TCustomCheckBox::ShowState(TCheckBoxState value) {
     FState = value;
     if (HandleAllocated()) ::SendMessageW(WindowHandle(), BM_SETCHECK, static_cast<WPARAM>(value), 0);
-    if (!IsInState(csLoading)) Click();
+}
+
+void TCustomCheckBox::ActionChange(TObject* sender, bool checkDefaults) {
+    const TLifeGuard guard(*this);
+    TButtonControl::ActionChange(sender, checkDefaults);
+    if (!guard.IsAlive()) return;
+    const auto* action = dynamic_cast<const TBasicAction*>(sender);
+    const TActionValues* values = action ? action->Values() : nullptr;
+    if (values && (!checkDefaults || FState == cbUnchecked))
+        ShowState(values->Checked ? cbChecked : cbUnchecked);
+}
+
+std::unique_ptr<TBasicActionLink> TCustomCheckBox::CreateActionLink() {
+    return std::make_unique<TActionLink>(*this);
+}
+
+bool TCustomCheckBox::IsStateStored() const {
+    const auto* link = dynamic_cast<const TActionLink*>(GetActionLink());
+    return !link || !link->IsCheckedLinked();
 }
 
 void TCustomCheckBox::SetAlignment(TAlignment value) {
@@ -87,6 +123,7 @@ const TMetaClass& TCheckBox::StaticClass() {
             .Property(L"Checked", &C::GetChecked, &C::SetChecked, false)
             .NotStored()
             .Property(L"State", &C::GetState, &C::SetState, cbUnchecked)
+            .Stored(&C::IsStateStored)
             .Property(L"WordWrap", &C::GetWordWrap, &C::SetWordWrap, false)
             .With(DragRows)
             .With(MouseRows)

@@ -23,14 +23,23 @@ public:
     [[nodiscard]] TAlignment GetAlignment() const { return FAlignment; }
     void SetAlignment(TAlignment value);
 
+    /// False while the linked action decides about the state.
+    [[nodiscard]] bool IsStateStored() const;
+
 protected:
     void Dispatch(TMessage& message) override;
+    void ActionChange(TObject* sender, bool checkDefaults) override;
+    [[nodiscard]] std::unique_ptr<TBasicActionLink> CreateActionLink() override;
     void CreateParams(TCreateParams& params) override;
     void CreateWnd() override;
     /// What a click of the user does to the state.
     virtual void Toggle();
 
 private:
+    class TActionLink;
+
+    void ShowState(TCheckBoxState value);
+
     TCheckBoxState FState = cbUnchecked;
     TAlignment FAlignment = taRightJustify;
     bool FAllowGrayed = false;

@@ -1,9 +1,9 @@
 #include "platform/vcl/stdctrls/PushControl.h"
 
-#include "platform/vcl/controls/ControlActionLink.h"
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/graphics/Brush.h"
+#include "platform/vcl/stdctrls/CheckedActionLink.h"
 
 namespace vcl {
 namespace {
@@ -14,14 +14,14 @@ bool IsModified(TShiftState shift) {
 
 }  // namespace
 
-/// Lets a control that switches over follow whether its action is checked.
-class TPushControl::TActionLink : public TControlActionLink {
+class TPushControl::TActionLink final : public TCheckedActionLink {
 public:
-    explicit TActionLink(TPushControl& client) : TControlActionLink(client), FPushControl(client) {}
-    void SetChecked(bool value) override {
-        const TActionValues* shown = Shown();
-        const bool isLinked = shown && shown->Checked == FPushControl.GetDown();
-        if (isLinked && FPushControl.Toggles()) FPushControl.SetDown(value);
+    explicit TActionLink(TPushControl& client) : TCheckedActionLink(client), FPushControl(client) {}
+
+protected:
+    [[nodiscard]] bool IsClientChecked() const override { return FPushControl.IsChecked(); }
+    void CheckClient(bool value) override {
+        if (FPushControl.CanBeChecked()) FPushControl.Check(value);
     }
 
 private:
@@ -91,7 +91,12 @@ void TPushControl::ActionChange(TObject* sender, bool checkDefaults) {
     if (!guard.IsAlive()) return;
     const auto* action = dynamic_cast<const TBasicAction*>(sender);
     const TActionValues* values = action ? action->Values() : nullptr;
-    if (values && Toggles() && (!checkDefaults || !FDown)) SetDown(values->Checked);
+    if (values && CanBeChecked() && (!checkDefaults || !IsChecked())) Check(values->Checked);
+}
+
+bool TPushControl::IsCheckedStored() const {
+    const auto* link = dynamic_cast<const TActionLink*>(GetActionLink());
+    return !link || !link->IsCheckedLinked();
 }
 
 std::unique_ptr<TBasicActionLink> TPushControl::CreateActionLink() {

@@ -30,8 +30,7 @@ using enum TPushState;
 ///   everywhere on the form when it is the `Default` one; Esc clicks a `Cancel` one; the letter after `&` in
 ///   the caption clicks.
 /// - `Click` switches a control that `Toggles` over, gives the form its `ModalResult`, and then runs the
-/// linked
-///   action or raises `OnClick`.
+///   action that is linked or raises `OnClick`.
 ///
 /// Painting: `Paint` draws one state, as a whole, over the background that `EraseFace` left. Its picture is
 /// kept until the control is marked for painting (`Invalidate`, `Repaint`), so that a change of state reaches
@@ -54,6 +53,9 @@ public:
     /// What a click makes the result of its form, which closes a modal form; mrNone leaves that open.
     [[nodiscard]] TModalResult GetModalResult() const { return FModalResult; }
     void SetModalResult(TModalResult value) { FModalResult = value; }
+
+    /// False while the linked action decides whether the control is checked.
+    [[nodiscard]] bool IsCheckedStored() const;
 
     [[nodiscard]] TPushState GetPushState() const { return FState; }
     /// Does all that a click of the user does.
@@ -79,6 +81,11 @@ protected:
     virtual void StateChanged() {}
     /// Whether a click switches the control over.
     [[nodiscard]] virtual bool Toggles() const { return false; }
+    /// For the linked action: whether the control follows its `Checked` at all, whether it is checked, and a
+    /// way to check it that is no click. A control that toggles is checked while it is `Down`.
+    [[nodiscard]] virtual bool CanBeChecked() const { return Toggles(); }
+    [[nodiscard]] virtual bool IsChecked() const { return FDown; }
+    virtual void Check(bool value) { SetDown(value); }
     /// Whether the second press of two quick ones is a double click rather than a press of its own.
     [[nodiscard]] virtual bool WantsDoubleClicks() const { return false; }
     /// Whether the space bar presses the control.

@@ -3,8 +3,10 @@
 #include "platform/vcl/actions/ActionList.h"
 #include "platform/vcl/actions/ShortCutList.h"
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/forms/StandardClasses.h"
 #include "platform/vcl/menus/PopupMenu.h"
 #include "platform/vcl/stdctrls/Button.h"
+#include "platform/vcl/stdctrls/CheckBox.h"
 #include "platform/vcl/stdctrls/Edit.h"
 #include "platform/vcl/streaming/ClassRegistry.h"
 #include "platform/vcl/streaming/FormText.h"
@@ -48,9 +50,71 @@ TEST_F(ActionTest, AControlShowsWhatItsActionSays) {
     Save->SetCaption(L"Store");
     EXPECT_TRUE(button->GetEnabled());
     EXPECT_EQ(button->GetCaption(), L"Store");
+}
+
+TEST_F(ActionTest, WhatAClientChangedForItselfStays) {
+    Save->SetCaption(L"Save");
+    auto* button = Make<TButton>({10, 10, 100, 40});
+    button->SetAction(Save);
     button->SetCaption(L"Mine");
+    TPopupMenu menu(nullptr);
+    auto* item = new TMenuItem(nullptr);
+    menu.GetItems().Add(item);
+    item->SetAction(Save);
+    item->SetCaption(L"Mine, too");
+    Save->SetEnabled(false);
     Save->SetCaption(L"Keep");
-    EXPECT_EQ(button->GetCaption(), L"Keep");
+    EXPECT_EQ(button->GetCaption(), L"Mine");
+    EXPECT_EQ(item->GetCaption(), L"Mine, too");
+    EXPECT_FALSE(button->GetEnabled());
+    EXPECT_FALSE(item->GetEnabled());
+    button->SetCaption(L"Keep");
+    Save->SetCaption(L"Store");
+    EXPECT_EQ(button->GetCaption(), L"Store") << "it is the action's again";
+}
+
+TEST_F(ActionTest, ACheckBoxFollowsItsAction) {
+    auto* box = Make<TCheckBox>({10, 10, 100, 40});
+    int clicks = 0;
+    Save->SetChecked(true);
+    box->SetAction(Save);
+    EXPECT_TRUE(box->GetChecked());
+    Save->SetChecked(false);
+    EXPECT_FALSE(box->GetChecked());
+    EXPECT_EQ(Runs, 0) << "following is no click";
+    Save->SetAutoCheck(true);
+    Input.ClickAt(box->WindowHandle(), 5, 20);
+    EXPECT_TRUE(box->GetChecked());
+    EXPECT_TRUE(Save->GetChecked());
+    EXPECT_EQ(Runs, 1);
+    box->OnClick = [&](TObject*) { ++clicks; };
+    Input.ClickAt(box->WindowHandle(), 5, 20);
+    EXPECT_EQ(clicks, 1);
+    Save->SetChecked(false);
+    Save->SetChecked(true);
+    EXPECT_TRUE(box->GetChecked()) << "once they agree it follows again";
+}
+
+TEST_F(ActionTest, FormFilesLeaveOutWhatTheActionDecides) {
+    RegisterStandardClasses();
+    List->SetName(L"List");
+    Save->SetName(L"Save");
+    Save->SetEnabled(false);
+    Save->SetVisible(false);
+    Save->SetChecked(true);
+    auto* box = new TCheckBox(&Form());
+    box->SetName(L"Box");
+    box->SetParent(&Form());
+    box->SetAction(Save);
+    const TFormDocument document = TWriter().WriteRootComponent(Form());
+    const TFormObject* written = document.Root.FindObject(L"Box");
+    ASSERT_NE(written, nullptr);
+    for (const wchar_t* name : {L"Enabled", L"Visible", L"State", L"Caption"})
+        EXPECT_EQ(written->FindProperty(name), nullptr) << ToUtf8(name);
+    Save->SetEnabled(true);
+    box->SetEnabled(false);
+    const TFormDocument own = TWriter().WriteRootComponent(Form());
+    EXPECT_NE(own.Root.FindObject(L"Box")->FindProperty(L"Enabled"), nullptr);
 }
 
 TEST_F(ActionTest, AMenuItemShowsWhatItsActionSays) {
