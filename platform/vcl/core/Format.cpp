@@ -2,6 +2,7 @@
 #include "platform/vcl/core/Strings.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cwchar>
 
 namespace vcl {
@@ -67,7 +68,7 @@ private:
             case L'e':
             case L'g': {
                 const auto* number = std::get_if<double>(&arg.FValue);
-                return number && Print(options, String(1, letter), *number);
+                return number && PrintFloat(options, letter, *number);
             }
             default:
                 return false;
@@ -83,6 +84,17 @@ private:
         String text(static_cast<std::size_t>(length), L'\0');
         _snwprintf(text.data(), text.size() + 1, place.c_str(), value);
         FResult += text;
+        return true;
+    }
+
+    /// The same for numbers with a fraction. Their decimal sign is that of the C library's locale, which the
+    /// host may have set.
+    bool PrintFloat(const String& options, wchar_t letter, double number) {
+        const std::size_t start = FResult.size();
+        if (!Print(options, String(1, letter), number)) return false;
+        const auto sign = static_cast<unsigned char>(*std::localeconv()->decimal_point);
+        std::replace(FResult.begin() + static_cast<std::ptrdiff_t>(start), FResult.end(),
+                     static_cast<wchar_t>(std::btowc(sign)), L'.');
         return true;
     }
 

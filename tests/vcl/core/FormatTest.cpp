@@ -1,3 +1,6 @@
+#include <clocale>
+#include <string>
+
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/core/Strings.h"
 #include "tests/support/LedgerTest.h"
@@ -37,6 +40,16 @@ TEST(FormatTest, ObeysFlagsWidthAndPrecision) {
     EXPECT_EQ(Format(L"%.8x", 0x1234), L"00001234");
     EXPECT_EQ(Format(L"%.2f %g", 1.005e2, 0.5), L"100.50 0.5");
     EXPECT_EQ(Format(L"%c", L'\x00E4'), L"\x00E4");
+}
+
+TEST(FormatTest, WritesAPointWhateverTheLocaleOfTheHost) {
+    const std::string former = std::setlocale(LC_ALL, nullptr);
+    ASSERT_NE(std::setlocale(LC_ALL, "German_Germany.1252"), nullptr);
+    const String text = Format(L"%.2f, %e|%d", 1.5, 0.25, 3);
+    std::setlocale(LC_ALL, former.c_str());
+    EXPECT_EQ(text.substr(0, 6), L"1.50, ");
+    EXPECT_EQ(text.substr(6, 8), L"2.500000");
+    EXPECT_EQ(text.substr(text.size() - 2), L"|3");
 }
 
 TEST(FormatTest, TakesTextsOfAnyLength) {
