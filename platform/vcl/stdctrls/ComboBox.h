@@ -58,6 +58,7 @@ public:
     /// Height of an entry in pixels; 0 for that of the font. Counts for entries that the host draws.
     [[nodiscard]] int GetItemHeight() const;
     void SetItemHeight(int value);
+    [[nodiscard]] bool IsItemHeightStored() const { return FItemHeight != 0; }
     /// Greatest number of characters that the user may type; 0: no limit.
     [[nodiscard]] int GetMaxLength() const { return FMaxLength; }
     void SetMaxLength(int value);

@@ -82,7 +82,7 @@ const TMetaClass& TComboBox::StaticClass() {
             .Property(L"Style", &C::GetStyle, &C::SetStyle, csDropDown)
             .Property(L"DropDownCount", &C::GetDropDownCount, &C::SetDropDownCount, 8)
             .Property(L"ItemHeight", &C::GetItemHeight, &C::SetItemHeight, 0)
-            .NotStored()
+            .Stored(&C::IsItemHeightStored)
             .Property(L"Items", &C::GetItems, &C::SetItems)
             .Property(L"ItemIndex", &C::GetItemIndex, &C::SetItemIndex, -1)
             .Property(L"MaxLength", &C::GetMaxLength, &C::SetMaxLength, 0)

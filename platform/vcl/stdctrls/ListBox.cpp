@@ -12,7 +12,7 @@ namespace vcl {
 /// The entries of a list box: they are kept here, and the window shows a copy.
 class TCustomListBox::TItems final : public TStringList {
 public:
-    explicit TItems(TCustomListBox& box) : FBox(box) {}
+    explicit TItems(TCustomListBox& box) : FBox(box) { Duplicates = dupAccept; }
 
     void Put(int index, const String& text) override {
         const TPlace place = FBox.PresentPlace();

@@ -38,6 +38,24 @@ TEST_F(StandardClasses, StandOnTheirPages) {
     EXPECT_EQ(GetClass(L"TForm"), &TForm::StaticClass());
 }
 
+TEST_F(StandardClasses, AComboBoxKeepsTheItemHeightThatItWasGiven) {
+    auto form = Read(
+        LR"(object Form: TForm
+      object Own: TComboBox
+        Style = csOwnerDrawFixed
+        ItemHeight = 31
+      end
+      object Usual: TComboBox
+      end
+    end)");
+    form->HandleNeeded();
+    const TFormDocument written = TWriter().WriteRootComponent(*form);
+    const TFormProperty* height = written.Root.FindObject(L"Own")->FindProperty(L"ItemHeight");
+    ASSERT_NE(height, nullptr);
+    EXPECT_EQ(*height->Value.As<std::int64_t>(), 31);
+    EXPECT_EQ(written.Root.FindObject(L"Usual")->FindProperty(L"ItemHeight"), nullptr);
+}
+
 TEST_F(StandardClasses, MakeAWholeForm) {
     const auto form = Read(
         LR"(object Login: TForm

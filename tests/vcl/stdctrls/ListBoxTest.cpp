@@ -54,6 +54,12 @@ TEST_F(ListBoxTest, TheWindowFollowsEveryChangeOfTheItems) {
     EXPECT_EQ(Shown(), Texts());
 }
 
+TEST_F(ListBoxTest, ASortedListHoldsTheSameTextTwice) {
+    Box->SetSorted(true);
+    Fill({L"b", L"a", L"b"});
+    EXPECT_EQ(Shown(), (Texts{L"a", L"b", L"b"}));
+}
+
 TEST_F(ListBoxTest, ItemsSelectionAndPlaceOutliveTheWindow) {
     for (int i = 0; i < 40; ++i)
         Box->GetItems().Add(IntToStr(i));
