@@ -2,6 +2,7 @@
 
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/MoveElement.h"
+#include "platform/vcl/core/UpdateBracket.h"
 
 namespace vcl {
 
@@ -55,16 +56,11 @@ TCollectionItem* TCollection::Add() {
 
 TCollectionItem* TCollection::Insert(int index) {
     if (index < 0 || index > GetCount()) throw EListError(Format(L"List index out of bounds (%d)", index));
-    BeginUpdate();
     TCollectionItem* item = nullptr;
-    try {
+    WithinUpdate(*this, [&] {
         item = Add();
         item->SetIndex(index);
-    } catch (...) {
-        EndUpdate();
-        throw;
-    }
-    EndUpdate();
+    });
     return item;
 }
 
@@ -77,15 +73,10 @@ void TCollection::Delete(int index) {
 
 void TCollection::Clear() {
     if (FItems.empty()) return;
-    BeginUpdate();
-    try {
+    WithinUpdate(*this, [this] {
         while (!FItems.empty())
             Delete(GetCount() - 1);
-    } catch (...) {
-        EndUpdate();
-        throw;
-    }
-    EndUpdate();
+    });
 }
 
 TCollectionItem* TCollection::FindItemID(int id) const {
@@ -108,16 +99,11 @@ void TCollection::Assign(const TPersistent* source) {
     if (source == this) return;
     const auto* other = dynamic_cast<const TCollection*>(source);
     if (!other) return TPersistent::Assign(source);
-    BeginUpdate();
-    try {
+    WithinUpdate(*this, [&] {
         Clear();
         for (const TCollectionItem* item : other->FItems)
             Add()->Assign(item);
-    } catch (...) {
-        EndUpdate();
-        throw;
-    }
-    EndUpdate();
+    });
 }
 
 void TCollection::Changed() {

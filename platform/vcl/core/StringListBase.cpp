@@ -1,24 +1,9 @@
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Filer.h"
 #include "platform/vcl/core/StringList.h"
+#include "platform/vcl/core/UpdateBracket.h"
 
 namespace vcl {
-namespace {
-
-/// Changes the list inside an update bracket, which ends also when the change raises.
-template <class Body>
-void Bracketed(TStrings& list, Body change) {
-    list.BeginUpdate();
-    try {
-        change();
-    } catch (...) {
-        list.EndUpdate();
-        throw;
-    }
-    list.EndUpdate();
-}
-
-}  // namespace
 
 const TMetaClass& TStrings::StaticClass() {
     static const TMetaClass meta = DefineClass<TStrings>(L"TStrings", TPersistent::StaticClass());
@@ -32,7 +17,7 @@ int TStrings::AddObject(const String& text, TObject* object) {
 }
 
 void TStrings::AddStrings(const TStrings& source) {
-    Bracketed(*this, [&] {
+    WithinUpdate(*this, [&] {
         // The count is taken once, so that a list can be appended to itself.
         const int count = source.GetCount();
         for (int i = 0; i < count; ++i)
@@ -58,7 +43,7 @@ int TStrings::IndexOfObject(const TObject* object) const {
 
 void TStrings::Move(int currentIndex, int newIndex) {
     if (currentIndex == newIndex) return;
-    Bracketed(*this, [&] {
+    WithinUpdate(*this, [&] {
         const String text = Get(currentIndex);
         TObject* object = GetObject(currentIndex);
         Delete(currentIndex);
@@ -67,7 +52,7 @@ void TStrings::Move(int currentIndex, int newIndex) {
 }
 
 void TStrings::Exchange(int a, int b) {
-    Bracketed(*this, [&] {
+    WithinUpdate(*this, [&] {
         const String text = Get(a);
         TObject* object = GetObject(a);
         const String other = Get(b);
@@ -88,7 +73,7 @@ String TStrings::GetText() const {
 }
 
 void TStrings::SetText(const String& text) {
-    Bracketed(*this, [&] {
+    WithinUpdate(*this, [&] {
         Clear();
         for (const String& line : SplitLines(text))
             Add(line);
@@ -98,7 +83,7 @@ void TStrings::SetText(const String& text) {
 void TStrings::DefineProperties(TFiler& filer) {
     TPersistent::DefineProperties(filer);
     const auto read = [this](TValueReader& reader) {
-        Bracketed(*this, [&] {
+        WithinUpdate(*this, [&] {
             Clear();
             reader.ReadListBegin();
             while (!reader.EndOfList())
@@ -142,7 +127,7 @@ void TStrings::Assign(const TPersistent* source) {
     if (source == this) return;
     const auto* strings = dynamic_cast<const TStrings*>(source);
     if (!strings) return TPersistent::Assign(source);
-    Bracketed(*this, [&] {
+    WithinUpdate(*this, [&] {
         Clear();
         AddStrings(*strings);
     });

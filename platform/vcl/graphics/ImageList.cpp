@@ -6,6 +6,7 @@
 
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/UpdateBracket.h"
 #include "platform/vcl/graphics/GdiErrors.h"
 
 // What an image list holds. ImageListDrawing.cpp draws it.
@@ -80,9 +81,9 @@ void TCustomImageList::Assign(const TPersistent* source) {
         TComponent::Assign(source);
         return;
     }
-    BeginUpdate();
-    Clear();
-    if (list) {
+    WithinUpdate(*this, [&] {
+        Clear();
+        if (!list) return;
         FWidth = list->FWidth;
         FHeight = list->FHeight;
         FBkColor = list->FBkColor;
@@ -93,8 +94,7 @@ void TCustomImageList::Assign(const TPersistent* source) {
         FMasks.Assign(&list->FMasks);
         FMasked = list->FMasked;
         Change();
-    }
-    EndUpdate();
+    });
 }
 
 // --- Properties
@@ -103,12 +103,12 @@ void TCustomImageList::SetSize(int width, int height) {
     width = std::max(width, 1);
     height = std::max(height, 1);
     if (width == FWidth && height == FHeight) return;
-    BeginUpdate();
-    Clear();
-    FWidth = width;
-    FHeight = height;
-    Change();
-    EndUpdate();
+    WithinUpdate(*this, [&] {
+        Clear();
+        FWidth = width;
+        FHeight = height;
+        Change();
+    });
 }
 
 void TCustomImageList::SetBkColor(TColor value) {
@@ -235,19 +235,19 @@ int TCustomImageList::AddMasked(const TBitmap* image, TColor transparent) {
 
 void TCustomImageList::AddImages(const TCustomImageList& source) {
     if (source.FWidth != FWidth || source.FHeight != FHeight) throw EInvalidOperation(L"Invalid image size");
-    BeginUpdate();
-    const int count = source.GetCount();
-    MakeRoom(GetCount() + count);
-    for (int i = 0; i < count; ++i) {
-        TBitmap image(FWidth, FHeight, pf32bit);
-        image.GetCanvas().CopyRect({0, 0, FWidth, FHeight}, source.FImages, source.RectOf(i));
-        TBitmap mask(FWidth, FHeight, pf1bit);
-        if (source.IsMasked(i))
-            mask.GetCanvas().CopyRect({0, 0, FWidth, FHeight}, source.FMasks, source.RectOf(i));
-        Append(image, source.IsMasked(i) ? &mask : nullptr);
-    }
-    Change();
-    EndUpdate();
+    WithinUpdate(*this, [&] {
+        const int count = source.GetCount();
+        MakeRoom(GetCount() + count);
+        for (int i = 0; i < count; ++i) {
+            TBitmap image(FWidth, FHeight, pf32bit);
+            image.GetCanvas().CopyRect({0, 0, FWidth, FHeight}, source.FImages, source.RectOf(i));
+            TBitmap mask(FWidth, FHeight, pf1bit);
+            if (source.IsMasked(i))
+                mask.GetCanvas().CopyRect({0, 0, FWidth, FHeight}, source.FMasks, source.RectOf(i));
+            Append(image, source.IsMasked(i) ? &mask : nullptr);
+        }
+        Change();
+    });
 }
 
 int TCustomImageList::AddIcon(HICON icon) {

@@ -6,6 +6,7 @@
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/core/Filer.h"
 #include "platform/vcl/core/Streams.h"
+#include "platform/vcl/core/UpdateBracket.h"
 #include "platform/vcl/graphics/ImageList.h"
 
 // Image lists in form files, in the format of the system's ImageList_Write: a head, a bitmap file with the
@@ -96,18 +97,18 @@ void TCustomImageList::ReadData(TStream& stream) {
     };
     if (!holdsAll(images) || (!masks.GetEmpty() && !holdsAll(masks))) RaiseDamaged();
 
-    BeginUpdate();
-    Clear();
-    SetSize(head.Width, head.Height);
-    const TRect all{0, 0, FWidth, FHeight};
-    for (int i = 0; i < head.Count; ++i) {
-        TBitmap image(FWidth, FHeight, pf32bit);
-        TBitmap mask(FWidth, FHeight, pf1bit);
-        image.GetCanvas().CopyRect(all, images, CellOf(i, FWidth, FHeight));
-        if (!masks.GetEmpty()) mask.GetCanvas().CopyRect(all, masks, CellOf(i, FWidth, FHeight));
-        Add(&image, masks.GetEmpty() ? nullptr : &mask);
-    }
-    EndUpdate();
+    WithinUpdate(*this, [&] {
+        Clear();
+        SetSize(head.Width, head.Height);
+        const TRect all{0, 0, FWidth, FHeight};
+        for (int i = 0; i < head.Count; ++i) {
+            TBitmap image(FWidth, FHeight, pf32bit);
+            TBitmap mask(FWidth, FHeight, pf1bit);
+            image.GetCanvas().CopyRect(all, images, CellOf(i, FWidth, FHeight));
+            if (!masks.GetEmpty()) mask.GetCanvas().CopyRect(all, masks, CellOf(i, FWidth, FHeight));
+            Add(&image, masks.GetEmpty() ? nullptr : &mask);
+        }
+    });
 }
 
 void TCustomImageList::WriteData(TStream& stream) const {

@@ -5,6 +5,7 @@
 
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/UpdateBracket.h"
 
 namespace vcl {
 namespace {
@@ -205,11 +206,11 @@ void TTreeNodes::Assign(const TPersistent* source) {
     const auto* other = dynamic_cast<const TTreeNodes*>(source);
     if (!other) return TPersistent::Assign(source);
     if (other == this) return;
-    BeginUpdate();
-    Clear();
-    for (const TTreeNode* node = other->FFirst; node; node = node->FNext)
-        CopyChildren(node, AddChildObject(nullptr, node->FText, node->Data));
-    EndUpdate();
+    WithinUpdate(*this, [&] {
+        Clear();
+        for (const TTreeNode* node = other->FFirst; node; node = node->FNext)
+            CopyChildren(node, AddChildObject(nullptr, node->FText, node->Data));
+    });
 }
 
 void TTreeNodes::CopyChildren(const TTreeNode* source, TTreeNode* parent) {
@@ -309,10 +310,10 @@ void TTreeNodes::Delete(TTreeNode* node) {
 }
 
 void TTreeNodes::Clear() {
-    BeginUpdate();
-    while (FLast)
-        Delete(FLast);
-    EndUpdate();
+    WithinUpdate(*this, [this] {
+        while (FLast)
+            Delete(FLast);
+    });
 }
 
 void TTreeNodes::SetSelected(TTreeNode* node) {
@@ -327,11 +328,11 @@ void TTreeNodes::SetSorted(bool value) {
     if (value == FSorted) return;
     FSorted = value;
     if (!value) return;
-    BeginUpdate();
-    SortChildren(nullptr);
-    for (TTreeNode* node = FFirst; node; node = node->GetNext())
-        SortChildren(node);
-    EndUpdate();
+    WithinUpdate(*this, [this] {
+        SortChildren(nullptr);
+        for (TTreeNode* node = FFirst; node; node = node->GetNext())
+            SortChildren(node);
+    });
 }
 
 /// Puts the nodes right below the parent into the order of their texts.

@@ -1,5 +1,6 @@
 #include "platform/vcl/core/Collection.h"
 #include "platform/vcl/core/Streams.h"
+#include "platform/vcl/core/UpdateBracket.h"
 #include "platform/vcl/streaming/GlobalComponents.h"
 #include "platform/vcl/streaming/ReaderTry.h"
 #include "platform/vcl/streaming/ValueCursor.h"
@@ -225,14 +226,7 @@ std::int64_t TReader::ElementOrdinal(const TPublishedProperty& row, const String
 }
 
 void TReader::ReadCollection(TCollection& collection, const TFormCollection& value) {
-    collection.BeginUpdate();
-    try {
-        ReadItems(collection, value.Items);
-    } catch (...) {
-        collection.EndUpdate();
-        throw;
-    }
-    collection.EndUpdate();
+    WithinUpdate(collection, [&] { ReadItems(collection, value.Items); });
 }
 
 void TReader::ReadItems(TCollection& collection, const std::vector<TFormItem>& items) {
