@@ -8,6 +8,8 @@
 
 namespace vcl {
 
+class TStream;
+
 /// A list of texts, each with an object that the list does not own. Index errors raise EStringListError
 /// "List index out of bounds (n)".
 class TStrings : public TPersistent {
@@ -39,6 +41,13 @@ public:
     /// All lines, each followed by CR LF.
     [[nodiscard]] String GetText() const;
     void SetText(const String& text);
+    /// Takes over the lines of a text in a file or in the rest of a stream, in UTF-8, UTF-16 with its mark or
+    /// code page 1252. Raises EFOpenError, EReadError.
+    void LoadFromFile(const String& fileName);
+    void LoadFromStream(TStream& stream);
+    /// Writes all lines in UTF-8, after its mark. Raises EFCreateError, EWriteError.
+    void SaveToFile(const String& fileName) const;
+    void SaveToStream(TStream& stream) const;
     [[nodiscard]] bool Equals(const TStrings& other) const;
     /// Holds change events back until the matching EndUpdate.
     void BeginUpdate();

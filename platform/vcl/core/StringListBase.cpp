@@ -1,6 +1,12 @@
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Filer.h"
+#include "platform/vcl/core/Streams.h"
 #include "platform/vcl/core/StringList.h"
+#include "platform/vcl/core/TextEncoding.h"
 #include "platform/vcl/core/UpdateBracket.h"
 
 namespace vcl {
@@ -78,6 +84,28 @@ void TStrings::SetText(const String& text) {
         for (const String& line : SplitLines(text))
             Add(line);
     });
+}
+
+void TStrings::LoadFromFile(const String& fileName) {
+    TFileStream file(fileName, fmOpenRead | fmShareDenyWrite);
+    LoadFromStream(file);
+}
+
+void TStrings::LoadFromStream(TStream& stream) {
+    const std::int64_t rest = std::max<std::int64_t>(stream.GetSize() - stream.GetPosition(), 0);
+    std::vector<std::byte> bytes(static_cast<std::size_t>(rest));
+    stream.ReadBuffer(bytes.data(), bytes.size());
+    SetText(DecodeText(bytes));
+}
+
+void TStrings::SaveToFile(const String& fileName) const {
+    TFileStream file(fileName, fmCreate);
+    SaveToStream(file);
+}
+
+void TStrings::SaveToStream(TStream& stream) const {
+    const std::string bytes = EncodeText(GetText());
+    stream.WriteBuffer(bytes.data(), bytes.size());
 }
 
 void TStrings::DefineProperties(TFiler& filer) {

@@ -1,7 +1,7 @@
+#include "platform/vcl/core/TextEncoding.h"
 #include "platform/vcl/streaming/FormBinary.h"
 #include "platform/vcl/streaming/FormBinaryFormat.h"
 #include "platform/vcl/streaming/FormBytes.h"
-#include "platform/vcl/streaming/FormEncoding.h"
 #include "platform/vcl/streaming/FormNames.h"
 
 #include <algorithm>

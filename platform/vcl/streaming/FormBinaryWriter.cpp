@@ -1,6 +1,6 @@
+#include "platform/vcl/core/TextEncoding.h"
 #include "platform/vcl/streaming/FormBinary.h"
 #include "platform/vcl/streaming/FormBinaryFormat.h"
-#include "platform/vcl/streaming/FormEncoding.h"
 #include "platform/vcl/streaming/FormPlace.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "platform/vcl/streaming/FormBytes.h"
 
-#include "platform/vcl/streaming/FormEncoding.h"
+#include "platform/vcl/core/TextEncoding.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #include "platform/vcl/streaming/FormFiles.h"
 
 #include "platform/vcl/core/Streams.h"
+#include "platform/vcl/core/TextEncoding.h"
 #include "platform/vcl/streaming/FormBinary.h"
-#include "platform/vcl/streaming/FormEncoding.h"
 #include "platform/vcl/streaming/FormText.h"
 
 #include <algorithm>
@@ -11,7 +11,7 @@ namespace vcl {
 
 TFormDocument ParseForm(std::span<const std::byte> bytes, const String& fileName) {
     if (IsFormBinary(bytes)) return ParseFormBinary(bytes, fileName);
-    return ParseFormText(DecodeFormText(bytes), fileName);
+    return ParseFormText(DecodeText(bytes), fileName);
 }
 
 TFormDocument LoadFormFile(const String& fileName) {

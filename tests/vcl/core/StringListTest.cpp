@@ -2,7 +2,9 @@
 
 #include "platform/vcl/core/Component.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/Streams.h"
 #include "tests/support/LedgerTest.h"
+#include "tests/support/TempDir.h"
 #include "tests/vcl/core/Probes.h"
 
 namespace vcl {
@@ -241,6 +243,34 @@ TEST_F(StringListEventTest, WholeTextsAreAnnouncedOnce) {
     FList.Assign(&other);
     FList.AddStrings(other);
     EXPECT_EQ(FSeen, "-+-+-+");
+}
+
+TEST_F(StringListTest, GoesIntoAFileAndBack) {
+    const test::TempDir folder;
+    const String file = folder.File(L"lines.txt");
+    Fill({L"Wei\xDF", L"", L"\xD83D\xDE00"});
+    FList.SaveToFile(file);
+    TStringList read;
+    read.Add(L"former");
+    read.LoadFromFile(file);
+    EXPECT_TRUE(read.Equals(FList));
+    EXPECT_THROW(read.LoadFromFile(folder.File(L"none.txt")), EFOpenError);
+}
+
+TEST_F(StringListTest, ReadsTheRestOfAStreamInAnyUsualEncoding) {
+    const auto linesOf = [this](std::string_view bytes) {
+        TMemoryStream stream;
+        stream.WriteBuffer("skipped", 7);
+        stream.WriteBuffer(bytes.data(), bytes.size());
+        stream.SetPosition(7);
+        FList.LoadFromStream(stream);
+        return Joined();
+    };
+    EXPECT_EQ(linesOf("\xEF\xBB\xBF\xC3\xA4\nb"), L"\xE4,b") << "UTF-8 with its mark";
+    EXPECT_EQ(linesOf("\xC3\xA4\r\nb\r\n"), L"\xE4,b") << "and without";
+    EXPECT_EQ(linesOf("\xE4\n\x80"), L"\xE4,\x20AC") << "code page 1252";
+    EXPECT_EQ(linesOf({"\xFF\xFE\xE4\0\n\0b\0", 8}), L"\xE4,b") << "UTF-16";
+    EXPECT_EQ(linesOf(""), L"");
 }
 
 TEST_F(StringListEventTest, TheBracketEndsWhenAChangeRaises) {

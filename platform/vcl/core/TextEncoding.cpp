@@ -1,4 +1,4 @@
-#include "platform/vcl/streaming/FormEncoding.h"
+#include "platform/vcl/core/TextEncoding.h"
 
 #include <algorithm>
 #include <array>
@@ -8,6 +8,7 @@ namespace vcl {
 namespace {
 
 constexpr std::array<unsigned char, 3> Utf8Mark{0xEF, 0xBB, 0xBF};
+constexpr std::array<unsigned char, 2> Utf16Mark{0xFF, 0xFE};
 
 /// What code page 1252 has in place of the control characters 0x80 to 0x9F.
 constexpr std::array<wchar_t, 32> Ansi80To9F{0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -17,6 +18,20 @@ constexpr std::array<wchar_t, 32> Ansi80To9F{0x20AC, 0x0081, 0x201A, 0x0192, 0x2
 
 std::string_view AsText(std::span<const std::byte> bytes) {
     return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
+bool StartsWith(std::span<const std::byte> bytes, std::span<const unsigned char> mark) {
+    const auto matches = [](unsigned char a, std::byte b) { return std::byte{a} == b; };
+    return bytes.size() >= mark.size() && std::ranges::equal(mark, bytes.first(mark.size()), matches);
+}
+
+/// Low bytes first; half a character at the end is lost.
+String DecodeUtf16(std::span<const std::byte> bytes) {
+    String text(bytes.size() / 2, L'\0');
+    for (std::size_t i = 0; i < text.size(); ++i)
+        text[i] = static_cast<wchar_t>(std::to_integer<unsigned>(bytes[2 * i]) |
+                                       std::to_integer<unsigned>(bytes[2 * i + 1]) << 8);
+    return text;
 }
 
 }  // namespace
@@ -40,13 +55,16 @@ String DecodeAnsi(std::span<const std::byte> bytes) {
     return text;
 }
 
-String DecodeFormText(std::span<const std::byte> bytes) {
-    const auto matches = [](unsigned char mark, std::byte b) { return std::byte{mark} == b; };
-    if (bytes.size() >= Utf8Mark.size() &&
-        std::ranges::equal(Utf8Mark, bytes.first(Utf8Mark.size()), matches))
-        bytes = bytes.subspan(Utf8Mark.size());
+String DecodeText(std::span<const std::byte> bytes) {
+    if (StartsWith(bytes, Utf16Mark)) return DecodeUtf16(bytes.subspan(Utf16Mark.size()));
+    if (StartsWith(bytes, Utf8Mark)) bytes = bytes.subspan(Utf8Mark.size());
     if (auto text = DecodeUtf8(bytes)) return *std::move(text);
     return DecodeAnsi(bytes);
+}
+
+std::string EncodeText(StringView text) {
+    std::string bytes(Utf8Mark.begin(), Utf8Mark.end());
+    return bytes += ToUtf8(text);
 }
 
 bool IsWellFormed(StringView text) {
