@@ -101,30 +101,32 @@ void TControlLayout::Place(TAlign align) {
     }
 }
 
-void TControlLayout::PlaceAligned(TControl& control, TAlign align) {
+/// Where the control goes: along its edge of the rectangle, or all of it.
+TRect TControlLayout::AlignedBounds(const TControl& control, TAlign align) const {
     const int width = std::max(FRect.Width(), 0);
     const int height = std::max(FRect.Height(), 0);
-    TRect bounds = TRect::OfSize(FRect.Left, FRect.Top, width, height);
     switch (align) {
         case alTop:
-            bounds.Bottom = bounds.Top + control.GetHeight();
-            break;
+            return TRect::OfSize(FRect.Left, FRect.Top, width, control.GetHeight());
         case alBottom:
-            bounds =
-                TRect::OfSize(FRect.Left, FRect.Bottom - control.GetHeight(), width, control.GetHeight());
-            break;
+            return TRect::OfSize(FRect.Left, FRect.Bottom - control.GetHeight(), width, control.GetHeight());
         case alLeft:
-            bounds.Right = bounds.Left + control.GetWidth();
-            break;
+            return TRect::OfSize(FRect.Left, FRect.Top, control.GetWidth(), height);
         case alRight:
-            bounds = TRect::OfSize(FRect.Right - control.GetWidth(), FRect.Top, control.GetWidth(), height);
-            break;
+            return TRect::OfSize(FRect.Right - control.GetWidth(), FRect.Top, control.GetWidth(), height);
         default:
-            break;
+            return TRect::OfSize(FRect.Left, FRect.Top, width, height);
     }
-    SetBounds(control, bounds);
-    if (FStopped || !FParent.HasChild(&control)) return;
-    // Constraints may have made it another size; the edge that it keeps to counts.
+}
+
+void TControlLayout::PlaceAligned(TControl& control, TAlign align) {
+    SetBounds(control, AlignedBounds(control, align));
+    if (!FStopped && FParent.HasChild(&control)) TakeAway(control, align);
+}
+
+/// Narrows the rectangle by the control. Constraints may have made that another size; the edge that it keeps
+/// to counts.
+void TControlLayout::TakeAway(TControl& control, TAlign align) {
     switch (align) {
         case alTop:
             FRect.Top += control.GetHeight();

@@ -25,7 +25,9 @@ private:
     [[nodiscard]] std::vector<TControl*> InOrder(TAlign align) const;
     [[nodiscard]] static bool ComesBefore(const TControl& a, const TControl& b, TAlign align);
     void Place(TAlign align);
+    [[nodiscard]] TRect AlignedBounds(const TControl& control, TAlign align) const;
     void PlaceAligned(TControl& control, TAlign align);
+    void TakeAway(TControl& control, TAlign align);
     void PlaceCustom(TControl& control);
     void KeepAnchors(TControl& control);
     void SetBounds(TControl& control, const TRect& bounds);

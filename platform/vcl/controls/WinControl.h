@@ -86,7 +86,7 @@ public:
     /// first.
     void SetChildOrder(TComponent* child, int order) override;
 
-    // --- layout (WinControlLayout.cpp, Layout.h)
+    // --- layout (WinControlGeometry.cpp, Layout.h)
     void DisableAlign() { ++FAlignLevel; }
     void EnableAlign();
     /// Lays out the children now.
@@ -282,6 +282,7 @@ private:
     [[nodiscard]] static HWND DrawItemWindow(const DRAWITEMSTRUCT& item);
     [[nodiscard]] HWND MeasureItemWindow(const MEASUREITEMSTRUCT& item) const;
     // mouse
+    bool GoesToHolder(TControl& holder, TMessage& message);
     [[nodiscard]] TControl* MouseTarget(TPoint pos);
     [[nodiscard]] TCursor CursorUnderPointer();
     void WmMouseLeave(TMessage& message);

@@ -90,32 +90,37 @@ void TWinControl::WndProc(TMessage& message) {
                 ControlAtPos(ScreenToClient(message.Pos()), false))
                 message.Result = HTCLIENT;
             return;
-        case WM_CAPTURECHANGED: {
-            TControl* holder = CaptureInside(*this);
-            if (holder && message.LParam != reinterpret_cast<LPARAM>(FHandle)) {
-                CaptureLost(*this);
-                if (holder != this) holder->Perform(WM_CAPTURECHANGED, message.WParam, message.LParam);
-                if (!guard.IsAlive()) return;
-            }
+        case WM_CAPTURECHANGED:
+        case WM_CANCELMODE:
+        case CN_KEYDOWN:
+            if (TControl* holder = CaptureInside(*this); holder && GoesToHolder(*holder, message)) return;
             break;
-        }
-        case WM_CANCELMODE: {
-            TControl* holder = CaptureInside(*this);
-            if (holder && holder != this) holder->Perform(WM_CANCELMODE);
-            if (!guard.IsAlive()) return;
-            break;
-        }
-        case CN_KEYDOWN: {
-            TControl* holder = CaptureInside(*this);
-            if (holder && holder != this) return holder->SendTo(message);
-            break;
-        }
         default:
             if (message.Msg >= WM_MOUSEFIRST && message.Msg <= WM_MOUSELAST && IsControlMouseMsg(message))
                 return;
             break;
     }
     TControl::WndProc(message);
+}
+
+/// Tells the control that holds the mouse inside this window what it has to know; true when there is nothing
+/// left to do here.
+bool TWinControl::GoesToHolder(TControl& holder, TMessage& message) {
+    const TLifeGuard guard(*this);
+    const bool isOther = &holder != this;
+    switch (message.Msg) {
+        case WM_CAPTURECHANGED:
+            if (message.LParam == reinterpret_cast<LPARAM>(FHandle)) return false;
+            CaptureLost(*this);
+            if (isOther) holder.Perform(WM_CAPTURECHANGED, message.WParam, message.LParam);
+            return !guard.IsAlive();
+        case WM_CANCELMODE:
+            if (isOther) holder.Perform(WM_CANCELMODE);
+            return !guard.IsAlive();
+        default:
+            if (isOther) holder.SendTo(message);
+            return isOther;
+    }
 }
 
 void TWinControl::Dispatch(TMessage& message) {
