@@ -5,6 +5,7 @@
 #include "platform/vcl/controls/InnerEditor.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/ScopedValue.h"
 #include "platform/vcl/graphics/Arrows.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/stdctrls/Edit.h"
@@ -17,19 +18,6 @@ namespace {
 /// Pixels between the edge and the text.
 constexpr int TextMargin = 3;
 constexpr int ArrowSize = 2;
-
-/// Sets a flag for the length of a scope.
-class TScopedFlag {
-public:
-    explicit TScopedFlag(bool& flag) : FFlag(flag), FBefore(std::exchange(flag, true)) {}
-    ~TScopedFlag() { FFlag = FBefore; }
-    TScopedFlag(const TScopedFlag&) = delete;
-    TScopedFlag& operator=(const TScopedFlag&) = delete;
-
-private:
-    bool& FFlag;
-    bool FBefore;
-};
 
 }  // namespace
 
@@ -225,7 +213,7 @@ void TOwnAdvTreeComboBoxEx::SetTextBuf(const String& value) {
 }
 
 void TOwnAdvTreeComboBoxEx::PutText(const String& text) {
-    const TScopedFlag quiet(FQuiet);
+    const TScopedValue quiet(FQuiet, true);
     FEdit->SetText(text);
     if (!HasEditor() && FEdit->Focused()) FEdit->SelectAll();
 }
@@ -238,7 +226,7 @@ TTreeNode* TOwnAdvTreeComboBoxEx::FindText(StringView text) const {
 
 void TOwnAdvTreeComboBoxEx::SetNewText(const String& value) {
     {
-        const TScopedFlag quiet(FQuiet);
+        const TScopedValue quiet(FQuiet, true);
         SetSelected(FindText(value));
     }
     const TTreeNode* node = GetSelected();
@@ -252,7 +240,7 @@ void TOwnAdvTreeComboBoxEx::SelectAll() {
 void TOwnAdvTreeComboBoxEx::EditorChanged() {
     if (FQuiet) return;
     {
-        const TScopedFlag quiet(FQuiet);
+        const TScopedValue quiet(FQuiet, true);
         SetSelected(FindText(FEdit->GetText()));
     }
     Change();

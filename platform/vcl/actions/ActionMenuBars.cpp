@@ -6,6 +6,7 @@
 #include "platform/vcl/actions/ActionMenuItems.h"
 #include "platform/vcl/actions/ActionMenuLoop.h"
 #include "platform/vcl/controls/PublishedRows.h"
+#include "platform/vcl/core/ScopedValue.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/menus/Hotkeys.h"
 
@@ -92,7 +93,7 @@ bool TActionMainMenuBar::CanBeWorked() const {
 void TActionMainMenuBar::ArrangeControls() {
     // Without a window there is nothing to measure texts on; the new window's first size comes here again.
     if (FArranging || IsInState(csLoading) || !HandleAllocated()) return;
-    FArranging = true;
+    const TScopedValue arranging(FArranging, true);
     const int width = GetClientWidth();
     int x = GetHorzMargin();
     int y = GetVertMargin();
@@ -109,7 +110,6 @@ void TActionMainMenuBar::ArrangeControls() {
         rowHeight = std::max(rowHeight, control->GetHeight());
     }
     if (rowHeight > 0) SetHeight(y + rowHeight + GetVertMargin());
-    FArranging = false;
 }
 
 void TActionMainMenuBar::Resize() {

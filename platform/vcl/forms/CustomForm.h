@@ -115,7 +115,6 @@ public:
     /// After the controls come the components that the form owns and that stand in no other one.
     void GetChildren(const std::function<void(TComponent*)>& visit, TComponent* root) override;
 
-    [[nodiscard]] bool IsClientSizeStored() const { return true; }
     [[nodiscard]] bool IsIconStored() const;
 
     TNotifyEvent OnActivate;

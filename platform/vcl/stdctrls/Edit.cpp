@@ -4,6 +4,7 @@
 
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/core/ScopedValue.h"
 #include "platform/vcl/graphics/DeviceContexts.h"
 #include "platform/vcl/graphics/Font.h"
 #include "platform/vcl/stdctrls/WindowBorder.h"
@@ -135,9 +136,10 @@ TRect TCustomEdit::GetFrameInsets() const {
 }
 
 void TCustomEdit::CreateWnd() {
-    FCreating = true;
-    TWinControl::CreateWnd();
-    FCreating = false;
+    {
+        const TScopedValue creating(FCreating, true);
+        TWinControl::CreateWnd();
+    }
     if (FMaxLength) Send(EM_SETLIMITTEXT, static_cast<WPARAM>(FMaxLength));
     if (FPasswordChar) Send(EM_SETPASSWORDCHAR, FPasswordChar);
     if (!FTextHint.empty()) Send(EM_SETCUEBANNER, FALSE, reinterpret_cast<LPARAM>(FTextHint.c_str()));

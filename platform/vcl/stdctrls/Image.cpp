@@ -3,6 +3,7 @@
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/core/ScopedValue.h"
 #include "platform/vcl/graphics/Bitmap.h"
 #include "platform/vcl/graphics/Canvas.h"
 #include "platform/vcl/graphics/Picture.h"
@@ -116,14 +117,8 @@ void TImage::Paint() {
         canvas.Rectangle(GetClientRect());
     }
     // Drawing may complete the picture (decode it, say), which is no change of its contents.
-    FDrawing = true;
-    try {
-        canvas.StretchDraw(DestRect(), FPicture->GetGraphic());
-    } catch (...) {
-        FDrawing = false;
-        throw;
-    }
-    FDrawing = false;
+    const TScopedValue drawing(FDrawing, true);
+    canvas.StretchDraw(DestRect(), FPicture->GetGraphic());
 }
 
 void TImage::Resize() {
@@ -139,9 +134,8 @@ void TImage::Loaded() {
 void TImage::PictureChanged(TObject*) {
     if (FDrawing) return;
     if (TGraphic* graphic = FPicture->GetGraphic()) {
-        FDrawing = true;
+        const TScopedValue drawing(FDrawing, true);
         graphic->SetTransparent(FTransparent);
-        FDrawing = false;
     }
     AdjustSize();
     UpdateOpacity();
