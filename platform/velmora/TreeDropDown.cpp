@@ -3,19 +3,12 @@
 #include <algorithm>
 
 #include "platform/vcl/core/DefineClass.h"
+#include "platform/vcl/forms/Screen.h"
 
 namespace velmora {
 namespace {
 
 constexpr int LineWidth = 1;
-
-/// The part of the screen that windows may cover, around the point.
-TRect WorkAreaAt(TPoint point) {
-    MONITORINFO info{};
-    info.cbSize = sizeof info;
-    ::GetMonitorInfoW(::MonitorFromPoint(point, MONITOR_DEFAULTTONEAREST), &info);
-    return info.rcWork;
-}
 
 }  // namespace
 
@@ -91,7 +84,7 @@ void TTreeDropDown::ShowAt(TWinControl& control, int rows) {
     const int height = std::max(rows, 1) * FTree->GetItemHeight() + 2 * LineWidth;
     const TPoint top = control.ClientToScreen({0, 0});
     const int below = top.Y + control.GetHeight();
-    const TRect area = WorkAreaAt(top);
+    const TRect area = Screen().GetWorkAreaRect(TRect::OfSize(top.X, top.Y, 1, 1));
     const int roomBelow = area.Bottom - below;
     const int roomAbove = top.Y - area.Top;
     const bool goesUp = roomBelow < height && roomAbove > roomBelow;
