@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/tms/CornerCoverage.h"
 #include "platform/vcl/graphics/Canvas.h"
 
 namespace tms {
@@ -34,18 +35,7 @@ void DrawCorners(TCanvas& canvas, const TRect& rect, const TCurvyLook& look, int
 }  // namespace
 
 int CornerCoverage(int x, int y, int radius) {
-    // Points stand in the middle of their cells: everything is reckoned in half cells.
-    constexpr int Half = 2;
-    const int centre = radius * Grid * Half;
-    int count = 0;
-    for (int row = 0; row < Grid; ++row) {
-        const int dy = centre - (y * Grid + row) * Half - 1;
-        for (int column = 0; column < Grid; ++column) {
-            const int dx = centre - (x * Grid + column) * Half - 1;
-            if (dx * dx + dy * dy <= centre * centre) ++count;
-        }
-    }
-    return count * Full / (Grid * Grid);
+    return CoveredPoints(x, y, radius, Grid) * Full / (Grid * Grid);
 }
 
 void DrawCurvyFrame(TCanvas& canvas, const TRect& rect, const TCurvyLook& look) {

@@ -4,10 +4,13 @@
 #include <array>
 #include <cmath>
 
+#include "platform/tms/CornerCoverage.h"
+
 namespace tms {
 namespace {
 
 constexpr int MaxGlow = 160;
+constexpr int Grid = 4;  ///< Points of a pixel of a corner, across and down.
 
 /// The mixture of a and b, b weighing part / whole; rounded to the nearest.
 TColor Mix(TColor a, TColor b, int part, int whole) {
@@ -16,18 +19,6 @@ TColor Mix(TColor a, TColor b, int part, int whole) {
     };
     return RGBToColor(channel(RedOf(a), RedOf(b)), channel(GreenOf(a), GreenOf(b)),
                       channel(BlueOf(a), BlueOf(b)));
-}
-
-/// How much of a pixel lies inside the quarter circle of that radius around (radius, radius), of 16.
-int CornerCoverage(int x, int y, int radius) {
-    int inside = 0;
-    for (int i = 0; i < 16; ++i) {
-        // Sample points in eighths of a pixel from the circle's centre.
-        const int dx = 8 * (radius - x) - (2 * (i % 4) + 1);
-        const int dy = 8 * (radius - y) - (2 * (i / 4) + 1);
-        if (dx * dx + dy * dy <= 64 * radius * radius) ++inside;
-    }
-    return inside;
 }
 
 /// One half of a face: where it lies, and its gradient.
@@ -92,10 +83,10 @@ public:
     }
     void Round(TColor border) {
         ForEach([&](int x, int y, TPoint pixel, TColor& before) {
-            const int outer = CornerCoverage(x, y, FRadius);
-            const int inner = x > 0 && y > 0 ? CornerCoverage(x - 1, y - 1, FRadius - 1) : 0;
-            const TColor edge = Mix(border, FBits.GetColor(pixel.X, pixel.Y), inner, 16);
-            FBits.SetColor(pixel.X, pixel.Y, Mix(before, edge, outer, 16));
+            const int outer = CoveredPoints(x, y, FRadius, Grid);
+            const int inner = x > 0 && y > 0 ? CoveredPoints(x - 1, y - 1, FRadius - 1, Grid) : 0;
+            const TColor edge = Mix(border, FBits.GetColor(pixel.X, pixel.Y), inner, Grid * Grid);
+            FBits.SetColor(pixel.X, pixel.Y, Mix(before, edge, outer, Grid * Grid));
         });
     }
 
