@@ -8,6 +8,7 @@
 #include "platform/vcl/controls/AppServices.h"
 #include "platform/vcl/core/OsErrors.h"
 #include "platform/vcl/graphics/Canvas.h"
+#include "platform/vcl/graphics/DeviceContexts.h"
 
 namespace flatstyle {
 
@@ -62,37 +63,22 @@ LRESULT CALLBACK TUpDownWindow::Procedure(HWND window, UINT msg, WPARAM wParam, 
 }
 
 void TUpDownWindow::Paint() {
-    struct TPainting {
-        explicit TPainting(HWND window) : Window(window), Dc(::BeginPaint(window, &Paint)) {}
-        ~TPainting() {
-            if (Dc) ::EndPaint(Window, &Paint);
-        }
-        TPainting(const TPainting&) = delete;
-        TPainting& operator=(const TPainting&) = delete;
-        HWND Window;
-        PAINTSTRUCT Paint{};
-        HDC Dc;
-    };
-    const TPainting painting(FWindow);
-    if (!painting.Dc) return;
-    {
-        TCanvas canvas;
-        canvas.SetHandle(painting.Dc);
-        TRect client;
-        ::GetClientRect(FWindow, client.AsRect());
-        canvas.GetBrush().SetColor(FColor);
-        canvas.FillRect(client);
-        const int middle = client.Height() / 2;
-        for (const bool up : {true, false}) {
-            const TRect half{client.Left, up ? client.Top : middle, client.Right,
-                             up ? middle : client.Bottom};
-            if (::IsWindowEnabled(FWindow))
-                DrawFlatArrow(canvas, half, up, clBlack);
-            else
-                DrawFlatArrowEngraved(canvas, half, up, clGray, clWhite);
-        }
-        canvas.SetHandle(nullptr);
+    const TPaintDC paint(FWindow);
+    TCanvas canvas;
+    canvas.SetHandle(paint.Get());
+    TRect client;
+    ::GetClientRect(FWindow, client.AsRect());
+    canvas.GetBrush().SetColor(FColor);
+    canvas.FillRect(client);
+    const int middle = client.Height() / 2;
+    for (const bool up : {true, false}) {
+        const TRect half{client.Left, up ? client.Top : middle, client.Right, up ? middle : client.Bottom};
+        if (::IsWindowEnabled(FWindow))
+            DrawFlatArrow(canvas, half, up, clBlack);
+        else
+            DrawFlatArrowEngraved(canvas, half, up, clGray, clWhite);
     }
+    canvas.SetHandle(nullptr);
 }
 
 }  // namespace flatstyle
