@@ -178,7 +178,10 @@ void TScrollingWinControl::ScrollInView(const TControl* control) {
     const TLifeGuard guard(*this);
     const auto bring = [](TControlScrollBar& bar, int start, int length, int seen) {
         start -= bar.GetMargin();
-        const int end = start + std::min(length + 2 * bar.GetMargin(), seen);
+        length += 2 * bar.GetMargin();
+        // What fills the whole view is seen, wherever it begins.
+        if (start <= 0 && start + length >= seen) return;
+        const int end = start + std::min(length, seen);
         if (start < 0)
             bar.SetPosition(bar.GetPosition() + start);
         else if (end > seen)

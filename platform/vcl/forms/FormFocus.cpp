@@ -38,6 +38,15 @@ TWinControl* StepTowards(const TWinControl* from, TWinControl* to) {
     return to;
 }
 
+/// Brings the control into sight in all that scrolls around it.
+void ScrollToFocus(TWinControl& control) {
+    const TLifeGuard guard(control);
+    for (TWinControl* around = control.GetParent(); guard.IsAlive() && around; around = around->GetParent()) {
+        auto* scrolling = dynamic_cast<TScrollingWinControl*>(around);
+        if (scrolling && !scrolling->IsInState(csLoading)) scrolling->ScrollInView(&control);
+    }
+}
+
 }  // namespace
 
 // --- the window becomes active
@@ -158,7 +167,9 @@ bool TCustomForm::MoveFocusTo(TWinControl* control) {
         FFocusedControl = StepTowards(FFocusedControl, control);
         if (!tell(*FFocusedControl, CM_ENTER)) return false;
     }
-    return tell(*this, CM_FOCUSCHANGED, reinterpret_cast<LPARAM>(control));
+    ScrollToFocus(*control);
+    return guard.IsAlive() && controlGuard.IsAlive() &&
+           tell(*this, CM_FOCUSCHANGED, reinterpret_cast<LPARAM>(control));
 }
 
 void TCustomForm::CmActivate() {

@@ -1,7 +1,9 @@
 #include "platform/vcl/stdctrls/ScrollBox.h"
 
 #include "platform/vcl/core/Exceptions.h"
+#include "platform/vcl/stdctrls/Button.h"
 #include "platform/vcl/stdctrls/Label.h"
+#include "platform/vcl/stdctrls/Memo.h"
 #include "platform/vcl/stdctrls/Panel.h"
 #include "tests/support/FormTest.h"
 
@@ -251,6 +253,30 @@ TEST_F(ScrollBoxTest, ScrollInViewMovesJustSoFarThatTheControlIsSeen) {
     EXPECT_EQ(Box().GetVertScrollBar().GetPosition(), 230 - 80);
     Box().ScrollInView(Box().GetControl(0));
     EXPECT_EQ(Box().GetVertScrollBar().GetPosition(), 0);
+}
+
+TEST_F(ScrollBoxTest, TheControlThatGetsTheFocusComesIntoSight) {
+    auto* first = Make<TButton>({0, 0, 60, 20}, &Box());
+    auto* inner = Child({0, 190, 80, 240});
+    auto* last = Make<TButton>({5, 10, 65, 30}, inner);
+    first->SetFocus();
+    EXPECT_EQ(Box().GetVertScrollBar().GetPosition(), 0);
+    Input.KeyPress(VK_TAB);
+    EXPECT_TRUE(last->Focused());
+    // The button ends at 220 of the content, and 80 pixels are seen.
+    EXPECT_EQ(Box().GetVertScrollBar().GetPosition(), 140);
+    Input.KeyPress(VK_TAB);
+    EXPECT_TRUE(first->Focused());
+    EXPECT_EQ(Box().GetVertScrollBar().GetPosition(), 0);
+}
+
+TEST_F(ScrollBoxTest, AControlThatFillsTheViewStaysWhereItIsWithTheFocus) {
+    auto* tall = Make<TMemo>({0, 0, 80, 300}, &Box());
+    auto* other = Make<TButton>({200, 10, 260, 40});
+    other->SetFocus();
+    Box().GetVertScrollBar().SetPosition(120);
+    tall->SetFocus();
+    EXPECT_EQ(Box().GetVertScrollBar().GetPosition(), 120);
 }
 
 TEST_F(ScrollBoxTest, AlignedChildrenLieOnTheWholeContent) {
