@@ -74,7 +74,7 @@ void TCustomForm::Notification(TComponent* component, TOperation operation) {
 void TCustomForm::DefineProperties(TFiler& filer) {
     TScrollingWinControl::DefineProperties(filer);
     // Forms are not scaled and raise OnCreate at one time only.
-    SkipProperties(filer, {L"TextHeight", L"OldCreateOrder"});
+    SkipProperties(filer, {L"TextHeight", L"OldCreateOrder", L"Scaled"});
 }
 
 void TCustomForm::Loaded() {

@@ -155,6 +155,7 @@ TEST_F(StandardClasses, SkipWhatOtherDesignersStore) {
         LR"(object Form: TForm
       DesignSize = (320 240)
       OldCreateOrder = False
+      Scaled = False
       TextHeight = 13
       object Box: TPanel
         ExplicitLeft = -8
@@ -165,7 +166,7 @@ TEST_F(StandardClasses, SkipWhatOtherDesignersStore) {
       end
     end)");
     const std::string written = FormToText(TWriter().WriteRootComponent(*form));
-    for (const char* skipped : {"DesignSize", "OldCreateOrder", "TextHeight", "Explicit"})
+    for (const char* skipped : {"DesignSize", "OldCreateOrder", "Scaled", "TextHeight", "Explicit"})
         EXPECT_EQ(written.find(skipped), std::string::npos) << skipped;
 }
 
