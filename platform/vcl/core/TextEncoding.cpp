@@ -64,7 +64,8 @@ String DecodeText(std::span<const std::byte> bytes) {
 
 std::string EncodeText(StringView text) {
     std::string bytes(Utf8Mark.begin(), Utf8Mark.end());
-    return bytes += ToUtf8(text);
+    bytes += ToUtf8(text);
+    return bytes;
 }
 
 bool IsWellFormed(StringView text) {
