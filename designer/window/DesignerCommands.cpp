@@ -9,9 +9,9 @@
 #include "designer/files/SafeFile.h"
 #include "designer/model/Clipping.h"
 #include "designer/model/Placing.h"
-#include "designer/window/ClipboardText.h"
 #include "designer/window/DesignerWindow.h"
 #include "designer/window/Preview.h"
+#include "platform/vcl/forms/Clipboard.h"
 #include "platform/vcl/stdctrls/Edit.h"
 #include "platform/vcl/streaming/FormText.h"
 
@@ -142,12 +142,13 @@ void TDesignerWindow::Cut() {
 
 void TDesignerWindow::Copy() {
     if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->CopyToClipboard();
-    if (!FDocument.Selection().IsEmpty()) Try([this] { SetClipboardText(CopySelection(FDocument)); });
+    if (!FDocument.Selection().IsEmpty()) Try([this] { Clipboard().SetAsText(CopySelection(FDocument)); });
 }
 
 void TDesignerWindow::Paste() {
     if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->PasteFromClipboard();
-    TryEdit([this] { PasteText(FDocument, GetClipboardText(), PlaceForNew(), FSurface->Snapping.Grid); });
+    TryEdit(
+        [this] { PasteText(FDocument, Clipboard().GetAsText(), PlaceForNew(), FSurface->Snapping.Grid); });
 }
 
 /// What is chosen, when it takes controls, or what that stands in.
