@@ -125,22 +125,18 @@ void TScrollBar::Dispatch(TMessage& message) {
     }
 }
 
-void TScrollBar::DoScroll(const TMessage& message) {
-    const TScrollCode code = ToScrollCode(message.WParamLo());
-    std::int64_t position = FPosition;
+/// The position that follows from what the user did; it may lie outside of the limits.
+std::int64_t TScrollBar::PositionAfter(TScrollCode code) const {
+    const std::int64_t position = FPosition;
     switch (code) {
         case scLineUp:
-            position -= FSmallChange;
-            break;
+            return position - FSmallChange;
         case scLineDown:
-            position += FSmallChange;
-            break;
+            return position + FSmallChange;
         case scPageUp:
-            position -= FLargeChange;
-            break;
+            return position - FLargeChange;
         case scPageDown:
-            position += FLargeChange;
-            break;
+            return position + FLargeChange;
         case scPosition:
         case scTrack: {
             // The message carries 16 bits only.
@@ -148,19 +144,20 @@ void TScrollBar::DoScroll(const TMessage& message) {
             info.cbSize = sizeof info;
             info.fMask = SIF_TRACKPOS;
             ::GetScrollInfo(WindowHandle(), SB_CTL, &info);
-            position = info.nTrackPos;
-            break;
+            return info.nTrackPos;
         }
         case scTop:
-            position = FMin;
-            break;
+            return FMin;
         case scBottom:
-            position = FMax;
-            break;
-        case scEndScroll:
-            break;
+            return FMax;
+        default:
+            return position;
     }
-    int wanted = static_cast<int>(std::clamp(position, std::int64_t{FMin}, std::int64_t{Limit()}));
+}
+
+void TScrollBar::DoScroll(const TMessage& message) {
+    const TScrollCode code = ToScrollCode(message.WParamLo());
+    int wanted = static_cast<int>(std::clamp(PositionAfter(code), std::int64_t{FMin}, std::int64_t{Limit()}));
     const TLifeGuard guard(*this);
     Scroll(code, wanted);
     if (guard.IsAlive()) SetPosition(wanted);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "platform/vcl/controls/ControlScrollBar.h"
 #include "platform/vcl/controls/WinControl.h"
 
@@ -65,6 +67,7 @@ protected:
 private:
     void UpdateScrollInfo();
     void DoScroll(const TMessage& message);
+    [[nodiscard]] std::int64_t PositionAfter(TScrollCode code) const;
     [[nodiscard]] int Limit() const;
 
     TScrollBarKind FKind = sbHorizontal;
