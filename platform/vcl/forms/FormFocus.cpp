@@ -1,3 +1,4 @@
+#include "platform/vcl/controls/StateScope.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/forms/Application.h"
 #include "platform/vcl/forms/CustomForm.h"
@@ -13,23 +14,6 @@ namespace {
 [[noreturn]] void RaiseCannotFocus() {
     throw EInvalidOperation(L"Cannot focus a disabled or invisible window");
 }
-
-/// Marks a control as being on its way to the focus.
-class TFocusing {
-public:
-    explicit TFocusing(TWinControl& control) : FControl(control), FGuard(control) {
-        control.SetControlState(csFocusing, true);
-    }
-    ~TFocusing() {
-        if (FGuard.IsAlive()) FControl.SetControlState(csFocusing, false);
-    }
-    TFocusing(const TFocusing&) = delete;
-    TFocusing& operator=(const TFocusing&) = delete;
-
-private:
-    TWinControl& FControl;
-    TLifeGuard FGuard;
-};
 
 /// The child of `from` on the way down to `to`.
 TWinControl* StepTowards(const TWinControl* from, TWinControl* to) {
@@ -135,7 +119,7 @@ bool TCustomForm::SetFocusedControl(TWinControl* control) {
     Screen().FocusMoved(this, control);
     if (!guard.IsAlive() || !controlGuard.IsAlive()) return false;
     if (control->IsControlState(csFocusing)) return true;
-    const TFocusing focusing(*control);
+    const TStateScope focusing(*control, csFocusing);
     return MoveFocusTo(control);
 }
 
