@@ -101,6 +101,19 @@ TEST_F(PopupWindowItem, TheWindowStaysWhileItsItemIsTheHotOne) {
     EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
 }
 
+TEST_F(PopupWindowItem, TheMouseOnAWindowAboveTheItemIsNotOnTheItem) {
+    MoveTo(PopupItem());
+    Input.MoveTo(Window().GetHandle(), 40, 30);
+    const POINT place = OnScreen(PopupItem().ClipRect());
+    const HWND above =
+        ::CreateWindowExW(WS_EX_TOPMOST | WS_EX_NOACTIVATE, L"STATIC", L"", WS_POPUP | WS_VISIBLE | SS_NOTIFY,
+                          place.x - 8, place.y - 4, 16, 8, nullptr, nullptr, nullptr, nullptr);
+    ASSERT_TRUE(Window().GetVisible());
+    Input.MoveTo(place);
+    EXPECT_TRUE(test::PumpUntil([&] { return !Window().GetVisible(); }));
+    ::DestroyWindow(above);
+}
+
 TEST_F(PopupWindowItem, LeavingTheItemHidesItsWindowAfterTheEvent) {
     MoveTo(PopupItem());
     bool shownThen = false;
