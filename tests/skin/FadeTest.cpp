@@ -28,6 +28,14 @@ COLORREF Mixed(TColor color, COLORREF source, int hundredths) {
                       MixedPart(BlueOf(color), BlueOf(source), hundredths));
 }
 
+TEST_F(FadeTest, TheBitmapTellsThatItChanged) {
+    TBitmap source(4, 4, pf24bit), dest(4, 4, pf24bit);
+    int changes = 0;
+    dest.OnChange = [&](TObject*) { ++changes; };
+    Fade(dest, clWhite, 0, 0, 0.5L, source, {0, 0, 4, 4});
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(FadeTest, MixesEachComponent) {
     const Pixels picture = RandomColors(1).Picture(31, 17);
     for (const int hundredths : {0, 25, 50, 75}) {

@@ -202,6 +202,15 @@ TEST_F(NinePartFrameTest, ASystemColorFills) {
     EXPECT_EQ(PixelsOf(bitmap).At(20, 15), ColorToRGB(clHighlight));
 }
 
+TEST_F(NinePartFrameTest, TheBitmapTellsThatItChanged) {
+    const TNinePartBitmaps pieces(L"SKINBUTTONDEFAULT");
+    TBitmap face(60, 30, pf24bit);
+    int changes = 0;
+    face.OnChange = [&](TObject*) { ++changes; };
+    ASSERT_TRUE(ComposeNinePartByRows(face, pieces.Pieces(), clBlack));
+    EXPECT_EQ(changes, 1);
+}
+
 TEST_F(NinePartFrameTest, NoPixelsNeedNoFrame) {
     const TNinePartBitmaps mask(L"MASK");
     TBitmap empty;
