@@ -1,13 +1,11 @@
 #include "designer/model/Clipping.h"
 
 #include <algorithm>
-#include <map>
 #include <utility>
 #include <vector>
 
 #include "designer/model/Naming.h"
-#include "platform/vcl/core/PublishedProperty.h"
-#include "platform/vcl/streaming/ClassRegistry.h"
+#include "designer/model/References.h"
 #include "platform/vcl/streaming/FormText.h"
 
 namespace designer {
@@ -29,6 +27,8 @@ public:
     explicit TRenaming(const TFormDocument& document) : FDocument(document) {}
 
     void Rename(TFormObject& object) {
+        // What a form inherits is its own where it is pasted.
+        if (object.Kind == TFormObjectKind::Inherited) object.Kind = TFormObjectKind::Object;
         if (IsTaken(object.Name)) {
             String name = FreeName(object.ClassName, [this](const String& free) { return IsTaken(free); });
             FNames.emplace(object.Name, name);
@@ -40,18 +40,7 @@ public:
             Rename(child);
     }
 
-    void FollowReferences(TFormObject& object) const {
-        const TMetaClass* meta = GetClass(object.ClassName);
-        for (TFormProperty& property : object.Properties) {
-            const TPublishedProperty* row = meta ? meta->FindProperty(property.Name) : nullptr;
-            auto* name = std::get_if<TFormIdent>(&property.Value.Content);
-            if (!row || row->Kind() != TPropertyKind::Component || !name) continue;
-            if (const auto renamed = FNames.find(name->Name); renamed != FNames.end())
-                name->Name = renamed->second;
-        }
-        for (TFormObject& child : object.Children)
-            FollowReferences(child);
-    }
+    [[nodiscard]] const TNewNames& NewNames() const { return FNames; }
 
 private:
     [[nodiscard]] bool IsTaken(const String& name) const {
@@ -68,7 +57,7 @@ private:
     }
 
     const TFormDocument& FDocument;
-    std::map<String, String> FNames;
+    TNewNames FNames;
     std::vector<String> FUsed;
 };
 
@@ -121,6 +110,7 @@ String CopySelection(TDesignDocument& document) {
 void PasteText(TDesignDocument& document, StringView text, const TComponent& parent, int shift) {
     const TFormDocument pasted =
         ParseFormText(L"object Clipboard: TComponent\r\n" + String(text) + L"\r\nend\r\n");
+    if (pasted.Root.Children.empty()) return;
     TFormDocument changed = document.Document();
     const TFormDocument whole = document.Form().WriteWhole();
     TRenaming renaming(whole);
@@ -131,7 +121,7 @@ void PasteText(TDesignDocument& document, StringView text, const TComponent& par
     TFormObject& target = ObjectOf(parent, document.Root(), changed);
     std::vector<String> names;
     for (TFormObject& object : objects) {
-        renaming.FollowReferences(object);
+        FollowNames(object, renaming.NewNames());
         if (shift > 0) MoveOffSiblings(object, target.Children, shift);
         names.push_back(object.Name);
         target.Children.push_back(std::move(object));

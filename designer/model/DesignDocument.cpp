@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/streaming/FormText.h"
 
 namespace designer {
@@ -61,6 +62,7 @@ void TDesignDocument::BeginNew() {
 }
 
 void TDesignDocument::Edit(const String& label, const std::function<void()>& change) {
+    TFormDocument written;
     ++FDepth;
     try {
         const TDesignRoot* root = &Root();
@@ -71,29 +73,57 @@ void TDesignDocument::Edit(const String& label, const std::function<void()>& cha
                 RenewFrame(Root());
                 OnRebuilt();
             }
+            FForm.FreeOrphans();
             CheckInherited();
+            written = FForm.Write();
         }
     } catch (...) {
         if (--FDepth == 0) {
-            Show(FText, FForm.Write());
+            TakeBack();
             OnChange();
         }
         throw;
     }
-    if (--FDepth == 0) Commit(label);
+    if (--FDepth == 0) Commit(label, std::move(written));
 }
 
-void TDesignDocument::Commit(const String& label) {
-    const std::string before = std::move(FText);
-    NoteWritten();
-    TTextChange change = TTextChange::Between(before, FText);
+/// Brings the components back to what they were before an edit.
+void TDesignDocument::TakeBack() {
+    try {
+        // The text does not tell that an inherited component is gone.
+        if (FForm.MissingInherited().empty()) return Show(FText, FForm.Write());
+        ReadAnew();
+    } catch (const Exception&) {
+        // They can't even be written.
+        ReadAnew();
+    }
+}
+
+void TDesignDocument::ReadAnew() {
+    Rebuild([this] { FForm.Load(ParseFormText(FromUtf8(FText))); });
+    FWritten = FForm.Write();
+}
+
+void TDesignDocument::Commit(const String& label, TFormDocument written) {
+    std::string text = FormToText(written);
+    TTextChange change = TTextChange::Between(FText, text);
+    FWritten = std::move(written);
     if (change.IsEmpty()) return;
     FHistory.Add(label, std::move(change));
+    FText = std::move(text);
     OnChange();
 }
 
 void TDesignDocument::SetText(const String& label, const std::string& text) {
     SetDocument(label, ParseFormText(FromUtf8(text)));
+}
+
+void TDesignDocument::SetAncestors(const String& label, std::vector<TFormDocument> ancestors) {
+    const TFormDocument document = ParseFormText(FromUtf8(FText));
+    Rebuild([&] { FForm.Load(document, std::move(ancestors)); });
+    // What the ancestors now say as well is left out.
+    Commit(label, FForm.Write());
+    OnChange();
 }
 
 void TDesignDocument::SetDocument(const String& label, const TFormDocument& document) {

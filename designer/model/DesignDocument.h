@@ -45,7 +45,10 @@ public:
     /// Makes another text the form file, as one edit. Raises EFormError when it can't be parsed; the form
     /// stays as it was then.
     void SetText(const String& label, const std::string& text);
-    /// The same with a document.
+    /// Lets the form inherit other documents, the oldest first, as one edit; what it says itself stays.
+    /// Raises EFormError when they can't be read, and leaves everything as it is then.
+    void SetAncestors(const String& label, std::vector<TFormDocument> ancestors);
+    /// The same as `SetText` with a document.
     void SetDocument(const String& label, const TFormDocument& document);
     /// The form file as it would be written now.
     [[nodiscard]] TFormDocument Document() const { return FForm.Write(); }
@@ -60,10 +63,12 @@ public:
 
 private:
     void Show(const std::string& text, const TFormDocument& present);
+    void TakeBack();
+    void ReadAnew();
     void Rebuild(const std::function<void()>& load);
     void CheckInherited() const;
     void NoteWritten();
-    void Commit(const String& label);
+    void Commit(const String& label, TFormDocument written);
     void NoteRemoved(TComponent* component) { FSelection.Forget(component); }
 
     TDesignedForm FForm;

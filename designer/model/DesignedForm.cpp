@@ -4,9 +4,11 @@
 #include <utility>
 
 #include "designer/model/FormPatch.h"
+#include "designer/model/References.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/core/Identifiers.h"
 #include "platform/vcl/core/PublishedProperty.h"
+#include "platform/vcl/streaming/UnknownComponent.h"
 #include "platform/vcl/streaming/Writer.h"
 
 namespace designer {
@@ -65,10 +67,32 @@ void RemoveProperty(TFormObject& object, StringView name) {
 /// No form stands there.
 constexpr int NoPlace = -30'000;
 
+/// What can't be read of a form.
+struct TUnreadParts {
+    std::vector<TFormProblem> Problems;
+    std::vector<TUnreadProperty> Properties;
+};
+
+template <class T>
+void Append(std::vector<T>& parts, const std::vector<T>& more) {
+    parts.insert(parts.end(), more.begin(), more.end());
+}
+
+/// Reads what the document holds into the form; adds what can't be read to `unread`.
+void Read(const TFormDocument& document, TDesignRoot& root, TUnreadParts& unread) {
+    TReader reader(document);
+    reader.CollectProblems = true;
+    reader.ReadRootComponent(&root);
+    Append(unread.Problems, reader.GetProblems());
+    Append(unread.Properties, reader.GetUnreadProperties());
+}
+
 /// Reads what the ancestors of a form bring along.
-void ReadAncestors(const std::vector<TFormDocument>& ancestors, TDesignRoot& root) {
+TUnreadParts ReadAncestors(const std::vector<TFormDocument>& ancestors, TDesignRoot& root) {
+    TUnreadParts unread;
     for (const TFormDocument& ancestor : ancestors)
-        TReader(ancestor).ReadRootComponent(&root);
+        Read(ancestor, root, unread);
+    return unread;
 }
 
 /// True when both stand in components of the same name, or on the form itself.
@@ -103,18 +127,20 @@ void TDesignedForm::Load(const TFormDocument& document) {
                           .Property = {},
                           .Text = L"Das Formular, von dem dieses erbt, fehlt"});
     auto root = std::make_unique<TDesignRoot>();
-    if (inherits) ReadAncestors(FAncestors, *root);
-    TReader reader(document);
-    reader.CollectProblems = true;
-    reader.ReadRootComponent(root.get());
+    TUnreadParts inherited;
+    if (inherits) inherited = ReadAncestors(FAncestors, *root);
+    TUnreadParts own;
+    Read(document, *root, own);
     // Other forms of this program may have the name, which does not matter here.
     if (!document.Root.Name.empty()) root->SetName(document.Root.Name);
 
     FInherits = inherits;
     FFormClassName = document.Root.ClassName;
     FPlace = {root->GetLeft(), root->GetTop()};
-    FProblems = reader.GetProblems();
-    FUnread = reader.GetUnreadProperties();
+    FProblems = std::move(own.Problems);
+    Append(FProblems, inherited.Problems);
+    FUnread = std::move(own.Properties);
+    FInheritedUnread = std::move(inherited.Properties);
     Adopt(std::move(root));
 }
 
@@ -125,6 +151,7 @@ void TDesignedForm::Adopt(std::unique_ptr<TDesignRoot> root) {
         root->SetParentWindow(FRoot->GetParentWindow());
     }
     root->OnRemove = {this, &TDesignedForm::NoteRemoved};
+    root->OnRename = {this, &TDesignedForm::NoteRenamed};
     // The old components go with the root that leaves here.
     std::swap(FRoot, root);
 }
@@ -181,9 +208,10 @@ bool TDesignedForm::Patch(const TFormDocument& from, const TFormDocument& to) {
     return true;
 }
 
-TFormDocument TDesignedForm::WriteWith(TComponent* ancestor) const {
+TFormDocument TDesignedForm::WriteWith(TComponent* ancestor,
+                                       const std::vector<TUnreadProperty>& unread) const {
     TWriter writer;
-    writer.UnreadProperties = &FUnread;
+    writer.UnreadProperties = &unread;
     TFormDocument document = writer.WriteRootComponent(*FRoot, ancestor);
     document.Root.ClassName = FFormClassName;
     ReplaceNumber(document.Root, L"Left", FPlace.X);
@@ -192,15 +220,18 @@ TFormDocument TDesignedForm::WriteWith(TComponent* ancestor) const {
 }
 
 TFormDocument TDesignedForm::Write() const {
-    if (!FInherits) return WriteWith(nullptr);
-    TFormDocument document = WriteWith(FAncestor.get());
+    if (!FInherits) return WriteWith(nullptr, FUnread);
+    TFormDocument document = WriteWith(FAncestor.get(), FUnread);
     if (FPlace.X == FAncestorPlace.X) RemoveProperty(document.Root, L"Left");
     if (FPlace.Y == FAncestorPlace.Y) RemoveProperty(document.Root, L"Top");
     return document;
 }
 
 TFormDocument TDesignedForm::WriteWhole() const {
-    return WriteWith(nullptr);
+    // Of a property that both could not read the form's own comes first, and only once.
+    std::vector<TUnreadProperty> unread = FUnread;
+    Append(unread, FInheritedUnread);
+    return WriteWith(nullptr, unread);
 }
 
 bool TDesignedForm::IsInherited(const TComponent& component) const {
@@ -224,10 +255,36 @@ void TDesignedForm::SetFormClassName(const String& name) {
     FFormClassName = name;
 }
 
+void TDesignedForm::FreeOrphans() {
+    for (int i = FRoot->GetComponentCount() - 1; i >= 0; --i) {
+        auto* unknown = dynamic_cast<TUnknownComponent*>(FRoot->GetComponent(i));
+        if (unknown && !unknown->GetParentComponent()) unknown->Free();
+    }
+}
+
 void TDesignedForm::NoteRemoved(TComponent* component) {
-    std::erase_if(FUnread,
-                  [component](const TUnreadProperty& unread) { return unread.Component == component; });
+    const auto isItsOwn = [component](const TUnreadProperty& unread) {
+        return unread.Component == component;
+    };
+    std::erase_if(FUnread, isItsOwn);
+    std::erase_if(FInheritedUnread, isItsOwn);
+    // What could be read forgets the component by itself. A form that is replaced takes nothing along.
+    const bool isGivenUp = component->GetOwner() == FRoot.get() && !FRoot->IsInState(csDestroying);
+    if (isGivenUp && !component->GetName().empty())
+        std::erase_if(FUnread, [component](const TUnreadProperty& unread) {
+            return RefersTo(unread.Property.Value, component->GetName());
+        });
     OnRemove(component);
+}
+
+/// What could be read follows by itself.
+void TDesignedForm::NoteRenamed(const String& present, const String& next) {
+    const TNewNames names{{present, next}};
+    for (TUnreadProperty& unread : FUnread)
+        FollowNames(unread.Property.Value, names);
+    for (int i = 0; i < FRoot->GetComponentCount(); ++i)
+        if (auto* unknown = dynamic_cast<TUnknownComponent*>(FRoot->GetComponent(i)))
+            FollowNames(unknown->GetObject(), names);
 }
 
 }  // namespace designer

@@ -42,8 +42,10 @@ public:
     [[nodiscard]] bool IsInherited(const TComponent& component) const;
     /// The name of an inherited component for which that has happened; empty when there is none.
     [[nodiscard]] String MissingInherited() const;
+    /// Frees the placeholders of objects that stood in a component which has been freed.
+    void FreeOrphans();
 
-    /// What is wrong in the document that was loaded.
+    /// What is wrong in the document that was loaded, and in those that it inherits.
     [[nodiscard]] const std::vector<TFormProblem>& Problems() const { return FProblems; }
 
     /// The class that a host gives the form, such as "TMainForm".
@@ -59,8 +61,10 @@ public:
 
 private:
     void NoteRemoved(TComponent* component);
+    void NoteRenamed(const String& present, const String& next);
     void Adopt(std::unique_ptr<TDesignRoot> root);
-    [[nodiscard]] TFormDocument WriteWith(TComponent* ancestor) const;
+    [[nodiscard]] TFormDocument WriteWith(TComponent* ancestor,
+                                          const std::vector<TUnreadProperty>& unread) const;
 
     std::unique_ptr<TDesignRoot> FRoot;
     std::vector<TFormDocument> FAncestors;
@@ -71,6 +75,7 @@ private:
     TPoint FPlace;
     std::vector<TFormProblem> FProblems;
     std::vector<TUnreadProperty> FUnread;
+    std::vector<TUnreadProperty> FInheritedUnread;  ///< In the files of the ancestors.
 };
 
 }  // namespace designer

@@ -39,32 +39,17 @@ TPoint OriginOf(const TUnknownComponent& unknown) {
     return origin;
 }
 
-int NumberIn(const TFormObject& object, StringView name) {
-    const TFormProperty* property = object.FindProperty(name);
-    const auto* number = property ? property->Value.As<std::int64_t>() : nullptr;
-    return number ? static_cast<int>(*number) : 0;
-}
-
-void SetNumberIn(TFormObject& object, const wchar_t* name, std::int64_t value) {
-    const auto place = std::ranges::find_if(
-        object.Properties, [name](const TFormProperty& property) { return SameText(property.Name, name); });
-    if (place != object.Properties.end())
-        place->Value.Content = value;
-    else if (value != 0)
-        object.Properties.push_back({name, {value, {}}, {}});
-}
-
 TPoint PlaceInFile(const TUnknownComponent& unknown) {
     TPoint place = OriginOf(unknown);
-    place.X += NumberIn(unknown.GetObject(), L"Left");
-    place.Y += NumberIn(unknown.GetObject(), L"Top");
+    place.X += static_cast<int>(unknown.GetNumber(L"Left"));
+    place.Y += static_cast<int>(unknown.GetNumber(L"Top"));
     return place;
 }
 
 void SetPlaceInFile(TUnknownComponent& unknown, TPoint place) {
     const TPoint origin = OriginOf(unknown);
-    SetNumberIn(unknown.GetObject(), L"Left", place.X - origin.X);
-    SetNumberIn(unknown.GetObject(), L"Top", place.Y - origin.Y);
+    unknown.SetNumber(L"Left", place.X - origin.X);
+    unknown.SetNumber(L"Top", place.Y - origin.Y);
 }
 
 }  // namespace

@@ -92,6 +92,7 @@ void TReader::ReadContents(const TFormObject& object, TComponent& component, TCo
 
 TComponent* TReader::ReadChild(const TFormObject& object, TComponent& parent, TComponent& lookupRoot,
                                int index) {
+    if (OverridesUnknown(object, lookupRoot, index)) return nullptr;
     TComponent* component = nullptr;
     {
         const TFormPlace::TScope scope(FPlace, object);
@@ -113,6 +114,15 @@ TComponent* TReader::ReadChild(const TFormObject& object, TComponent& parent, TC
     }
     ReadContents(object, *component, component->IsInState(csInline) ? *component : lookupRoot);
     return component;
+}
+
+/// An inherited object that could not be made either takes in what this one says about it.
+bool TReader::OverridesUnknown(const TFormObject& object, const TComponent& lookupRoot, int index) {
+    if (object.Kind != TFormObjectKind::Inherited) return false;
+    auto* unknown = dynamic_cast<TUnknownComponent*>(lookupRoot.FindComponent(object.Name));
+    if (!unknown || !SameText(unknown->GetObject().ClassName, object.ClassName)) return false;
+    unknown->Override(object, index);
+    return true;
 }
 
 TComponent& TReader::MakeOrFind(const TFormObject& object, TComponent& lookupRoot) {

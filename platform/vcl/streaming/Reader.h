@@ -82,6 +82,7 @@ private:
     void NameRoot();
     void ReadContents(const TFormObject& object, TComponent& component, TComponent& lookupRoot);
     TComponent* ReadChild(const TFormObject& object, TComponent& parent, TComponent& lookupRoot, int index);
+    static bool OverridesUnknown(const TFormObject& object, const TComponent& lookupRoot, int index);
     TComponent& MakeOrFind(const TFormObject& object, TComponent& lookupRoot);
     TComponent& Create(const TFormObject& object, TComponent* owner);
     TComponent& FindInherited(const TFormObject& object, TComponent& lookupRoot);

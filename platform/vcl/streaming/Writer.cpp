@@ -5,7 +5,9 @@
 #include "platform/vcl/streaming/UnknownComponent.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace vcl {
@@ -56,8 +58,11 @@ void TWriter::WriteContents(TFormObject& object, TComponent& component, TCompone
     component.SetState(csWriting, true);
     const std::unique_ptr<TComponent, void (*)(TComponent*)> writing(
         &component, [](TComponent* written) { written->SetState(csWriting, false); });
-    WriteProperties(object.Properties, component, ancestor, {});
-    AppendUnread(object.Properties, component);
+    FProperties.clear();
+    WriteProperties(FProperties, component, ancestor, {});
+    AppendUnread(FProperties, component);
+    object.Properties.assign(std::make_move_iterator(FProperties.begin()),
+                             std::make_move_iterator(FProperties.end()));
     WriteChildren(object, component, ancestor);
     InsertUnknown(object, component);
 }
@@ -107,9 +112,19 @@ void TWriter::InsertUnknown(TFormObject& object, const TComponent& component) co
     for (const TUnknownComponent* unknown : FUnknown) {
         if (unknown->GetParentComponent() != &component) continue;
         const auto place = std::min(static_cast<std::size_t>(unknown->GetIndex()), object.Children.size());
-        object.Children.insert(object.Children.begin() + static_cast<std::ptrdiff_t>(place),
-                               unknown->GetObject());
+        std::optional<TFormObject> written = unknown->GetObject();
+        if (const TUnknownComponent* inherited = InheritedUnknown(*unknown))
+            written = unknown->ChangesFrom(*inherited);
+        if (written)
+            object.Children.insert(object.Children.begin() + static_cast<std::ptrdiff_t>(place),
+                                   *std::move(written));
     }
+}
+
+const TUnknownComponent* TWriter::InheritedUnknown(const TUnknownComponent& unknown) const {
+    const TComponent* root = FAncestorScope.Root;
+    if (!root || unknown.GetName().empty()) return nullptr;
+    return dynamic_cast<const TUnknownComponent*>(root->FindComponent(unknown.GetName()));
 }
 
 void TWriter::AppendUnread(TProperties& properties, const TComponent& component) const {

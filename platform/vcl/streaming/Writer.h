@@ -56,6 +56,7 @@ private:
     void WriteContents(TFormObject& object, TComponent& component, TComponent* ancestor);
     void WriteChildren(TFormObject& object, TComponent& component, TComponent* ancestor);
     void InsertUnknown(TFormObject& object, const TComponent& component) const;
+    [[nodiscard]] const TUnknownComponent* InheritedUnknown(const TUnknownComponent& unknown) const;
     void AppendUnread(TProperties& properties, const TComponent& component) const;
     [[nodiscard]] std::vector<TComponent*> ChildrenOf(TComponent& component, const TScope& scope) const;
     [[nodiscard]] TComponent* AncestorOf(const TComponent& child) const;
@@ -88,6 +89,7 @@ private:
     std::vector<const TUnknownComponent*> FUnknown;  ///< Those that the root owns.
     TScope FScope{};
     TScope FAncestorScope{};
+    TProperties FProperties;  ///< Of the component being written; it keeps its room from one to the next.
     std::unordered_map<const TMetaClass*, std::vector<const TPublishedProperty*>> FRows;
 };
 

@@ -189,6 +189,9 @@ TFormValue TWriter::CollectionValue(TCollection& collection) {
 }
 
 void TWriter::WriteEvent(TProperties& properties, const TSubject& subject) const {
+    // Nearly all events are empty.
+    const TEventBase& event = *subject.Row.Event(subject.Object);
+    if (!subject.AncestorRow && !event.MethodName() && !event.IsAssigned()) return;
     const TMethodName method = MethodName(subject.Object, subject.Row, FScope);
     const TMethodName inherited = subject.AncestorRow
                                       ? MethodName(*subject.Ancestor, *subject.AncestorRow, FAncestorScope)
