@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "designer/model/Naming.h"
 #include "platform/vcl/core/Exceptions.h"
-#include "platform/vcl/core/Identifiers.h"
 #include "platform/vcl/menus/ShortCuts.h"
 
 namespace designer {
@@ -94,9 +94,9 @@ TPersistent* ComponentOf(const TPublishedProperty& row, const String& name, cons
     return component;
 }
 
-void SetMethod(const TPublishedProperty& row, TPersistent& object, const String& name) {
-    if (!name.empty() && !IsValidIdent(name))
-        throw EConvertError(Format(L"'%s' ist kein Name einer Methode", name));
+void SetMethod(const TPublishedProperty& row, TPersistent& object, const String& name,
+               const TComponent& root) {
+    if (!name.empty()) CheckMethodName(root, row, name);
     row.Event(object)->SetMethodName(name);
 }
 
@@ -174,7 +174,7 @@ void SetPropertyText(const TPublishedProperty& row, TPersistent& object, const S
         case TPropertyKind::Component:
             return row.Set(object, ComponentOf(row, text, root));
         case TPropertyKind::Event:
-            return SetMethod(row, object, text);
+            return SetMethod(row, object, text, root);
         case TPropertyKind::Nested:
             throw EConvertError(Format(L"%s hat keinen Wert als Text", row.Name()));
         default:

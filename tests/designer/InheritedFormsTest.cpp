@@ -100,9 +100,14 @@ TEST_F(InheritedFormsTest, AnInheritedComponentCannotBeDeletedOrRenamed) {
     EXPECT_EQ(Document().Text(), Derived);
     EXPECT_FALSE(Document().IsModified());
 
+    Choose(L"NameEdit");
+    Window->Delete();
+    EXPECT_EQ(Answers.Errors.size(), 4u);
+    EXPECT_TRUE(Document().Root().FindComponent(L"NameEdit")) << "though the file does not mention it";
+
     Choose(L"More");
     Window->Delete();
-    EXPECT_EQ(Answers.Errors.size(), 3u) << "what the form has added itself can go";
+    EXPECT_EQ(Answers.Errors.size(), 4u) << "what the form has added itself can go";
     EXPECT_FALSE(TextHas("More"));
 }
 
