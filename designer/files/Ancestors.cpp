@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "designer/files/FileNames.h"
 #include "designer/files/SafeFile.h"
 #include "platform/vcl/streaming/FormErrors.h"
 #include "platform/vcl/streaming/FormFiles.h"
@@ -23,25 +24,19 @@ TFormDocument Parsed(const String& fileName) {
     return ParseForm(std::as_bytes(std::span(bytes)), fileName);
 }
 
-String FolderOf(const String& fileName) {
-    const std::size_t end = fileName.find_last_of(L"\\/");
-    return end == String::npos ? String(L".") : fileName.substr(0, end);
-}
-
 bool IsSameFile(const String& a, const String& b) {
-    const auto title = [](const String& name) { return name.substr(name.find_last_of(L"\\/") + 1); };
-    return SameText(title(a), title(b));
+    return SameText(FileTitle(a), FileTitle(b));
 }
 
 /// The forms in the files beside `fileName`; what can't be read is none.
 std::vector<TFound> FormsBeside(const String& fileName) {
     std::vector<TFound> forms;
-    const String folder = FolderOf(fileName);
+    const String folder = FileFolder(fileName);
     WIN32_FIND_DATAW data{};
-    const HANDLE search = ::FindFirstFileW((folder + L"\\*.dfm").c_str(), &data);
+    const HANDLE search = ::FindFirstFileW((folder + L"*.dfm").c_str(), &data);
     if (search == INVALID_HANDLE_VALUE) return forms;
     do {
-        const String name = folder + L'\\' + data.cFileName;
+        const String name = folder + data.cFileName;
         if (IsSameFile(name, fileName)) continue;
         try {
             forms.push_back({name, Parsed(name)});

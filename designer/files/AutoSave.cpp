@@ -99,9 +99,15 @@ std::vector<TLeftWork> TAutoSave::LeftWork() const {
         auto lock = std::make_shared<TLock>(PathOf(stem + LockExtension));
         if (!lock->IsHeld()) continue;
         const String path = PathOf(name);
-        TLeftWork& work = left.emplace_back(Unpacked(ReadWholeFile(path), FileTimeOf(path)));
-        work.Path = path;
-        work.Lock = std::move(lock);
+        try {
+            TLeftWork work = Unpacked(ReadWholeFile(path), FileTimeOf(path));
+            work.Path = path;
+            work.Lock = std::move(lock);
+            left.push_back(std::move(work));
+        } catch (const EFOpenError&) {
+            // Somebody has just taken or locked it; the next start may see it again.
+            continue;
+        }
     }
     std::ranges::sort(left, std::greater(), &TLeftWork::SavedAt);
     return left;

@@ -1,10 +1,18 @@
 #pragma once
 
+#include <cstddef>
+#include <optional>
+#include <span>
+#include <vector>
+
 #include "designer/files/Ancestors.h"
 #include "designer/model/DesignDocument.h"
 #include "platform/vcl/streaming/FormFiles.h"
 
 namespace designer {
+
+/// What other programs have done to a file.
+enum class TDiskChange { None, Written, Gone };
 
 /// The file that a document comes from and goes to.
 class TDesignFile {
@@ -27,7 +35,8 @@ public:
     /// Begins with the file's form. Raises EFOpenError, EFormError, and EAbort when the user gives up
     /// choosing its ancestor; the present form stays then.
     void Open(const String& name);
-    /// Begins with a text that an earlier run left behind: the state counts as not saved.
+    /// Begins with a text that an earlier run left behind under what `KeptName` was: the state counts as not
+    /// saved. The file as it is on the disk lies before it, when it can be read.
     void Recover(const String& name, const std::string& text);
     /// Writes the form in the format in which it was read. Only with a name.
     void Save() { SaveAs(FName); }
@@ -35,16 +44,41 @@ public:
     /// file of that name. Raises EFCreateError and EWriteError.
     void SaveAs(const String& name);
 
-    /// True once after another program has written the file.
-    [[nodiscard]] bool NoticeChangeOnDisk();
+    /// The name under which unsaved work is kept: the file's, or, for a form that has none, the folder of the
+    /// form that it inherits with a backslash behind it.
+    [[nodiscard]] String KeptName() const;
+
+    /// What other programs have done to the file since this was asked last.
+    [[nodiscard]] TDiskChange NoticeChangeOnDisk();
+    /// The file of a form that this one inherits, written by another program since this was asked last; empty
+    /// when there is none.
+    [[nodiscard]] String NoticeChangeOfAncestor();
+    /// Reads the forms that this one inherits once more, from the same files. What this form says itself
+    /// stays, with the edits so far. Raises what `Open` does.
+    void ReloadAncestors();
 
 private:
-    void Adopt(const String& name, TFormFormat format);
+    /// A file and when it was written last.
+    struct TWatched {
+        String Name;
+        unsigned long long Time = 0;
+    };
+    struct TFormat {
+        TFormFormat Kind = TFormFormat::Text;
+        std::optional<String> ResourceName;  ///< Of a binary form with the header of a resource file.
+    };
+
+    static TFormat FormatOf(std::span<const std::byte> bytes);
+    [[nodiscard]] static std::vector<TWatched> Watch(const std::vector<TFormDocument>& forms);
+    void Adopt(TWatched file, TFormat format, std::vector<TWatched> ancestors);
+    [[nodiscard]] bool OpenIfReadable(const String& name);
+    [[nodiscard]] std::vector<std::byte> Bytes(const TFormat& format) const;
 
     TDesignDocument& FDocument;
     String FName;
-    TFormFormat FFormat = TFormFormat::Text;
+    TFormat FFormat;
     unsigned long long FTime = 0;
+    std::vector<TWatched> FAncestors;  ///< The oldest first.
 };
 
 }  // namespace designer

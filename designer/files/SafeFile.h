@@ -10,7 +10,8 @@ namespace designer {
 
 /// Makes the file hold these bytes: writes them beside it, flushes them to the disk and puts the new file in
 /// the place of the old one in a single step, so that at every moment the name leads to a whole file. Raises
-/// EFCreateError or EWriteError; the old file stays then.
+/// EFCreateError or EWriteError, for a file that is read-only too; the old file stays then, and nothing
+/// beside it.
 void WriteFileSafely(const String& fileName, std::string_view bytes);
 
 /// All bytes of the file. Raises EFOpenError.

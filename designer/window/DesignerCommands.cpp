@@ -6,6 +6,7 @@
 #include "designer/dialogs/ComponentEditors.h"
 #include "designer/dialogs/KeysDialog.h"
 #include "designer/dialogs/TabOrderDialog.h"
+#include "designer/files/FileNames.h"
 #include "designer/files/SafeFile.h"
 #include "designer/model/Clipping.h"
 #include "designer/model/Placing.h"
@@ -77,8 +78,19 @@ void TDesignerWindow::OpenFile(const String& name) {
     if (!MayLeave()) return;
     if (Try([&] { FFile.Open(name); })) FRecent.Add(name);
     UpdateTitle();
+    ShowProblems();
+}
+
+void TDesignerWindow::ShowProblems() {
     const auto& problems = FDocument.Form().Problems();
     if (!problems.empty()) ShowStatus(problems.front().Message());
+}
+
+/// What is typed into the text belongs to what this form says itself.
+void TDesignerWindow::ReloadAncestors() {
+    if (!AcceptText()) return;
+    Try([this] { FFile.ReloadAncestors(); });
+    ShowProblems();
 }
 
 void TDesignerWindow::OpenRecentFile(const String& name) {
@@ -89,25 +101,26 @@ void TDesignerWindow::OpenRecentFile(const String& name) {
 
 void TDesignerWindow::OfferLeftWork() {
     for (const TLeftWork& work : FAutoSave.LeftWork()) {
-        const String title = work.FileName.empty() ? String(L"Unbenannt") : work.FileName;
+        const bool isNew = work.FileName.empty() || IsFileFolder(work.FileName);
+        const String title = isNew ? String(L"Unbenannt") : work.FileName;
         if (!FDialogs->AskToRecover(title)) {
             TAutoSave::Forget(work);
             continue;
         }
         // It goes only when this program has kept it itself. What else was left waits for the next start.
-        Try([&] {
+        const bool taken = Try([&] {
             FFile.Recover(work.FileName, work.Text);
             if (KeepWork()) TAutoSave::Forget(work);
         });
         UpdateTitle();
-        return;
+        if (taken) return;
     }
 }
 
 bool TDesignerWindow::Save() {
     if (!AcceptText()) return false;
     if (FFile.Name().empty()) return SaveAs();
-    Try([this] { FFile.Save(); });
+    if (!LookAtDisk()) Try([this] { FFile.Save(); });
     UpdateTitle();
     return !FDocument.IsModified();
 }
@@ -136,13 +149,13 @@ void TDesignerWindow::Redo() {
 
 void TDesignerWindow::Cut() {
     if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->CutToClipboard();
-    Copy();
-    Delete();
+    if (Copy()) Delete();
 }
 
-void TDesignerWindow::Copy() {
-    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->CopyToClipboard();
-    if (!FDocument.Selection().IsEmpty()) Try([this] { Clipboard().SetAsText(CopySelection(FDocument)); });
+bool TDesignerWindow::Copy() {
+    if (auto* editor = dynamic_cast<TCustomEdit*>(GetActiveControl())) return editor->CopyToClipboard(), true;
+    return !FDocument.Selection().IsEmpty() &&
+           Try([this] { Clipboard().SetAsText(CopySelection(FDocument)); });
 }
 
 void TDesignerWindow::Paste() {

@@ -88,6 +88,19 @@ bool TDesignerDialogs::AskToReload(const String& title) {
                      .Cancel = true});
 }
 
+bool TDesignerDialogs::AskToReloadAncestor(const String& title) {
+    return AskYesNo(
+        L"„" + title + L"“, von dem dieses Formular erbt, wurde von einem anderen Programm geändert.",
+        {.Caption = L"&Neu laden",
+         .Description = L"Zeigt, was das Formular nun erbt. Die eigenen Änderungen bleiben.",
+         .Result = mrYes,
+         .Default = true},
+        {.Caption = L"&Behalten",
+         .Description = L"Weiter mit dem, was das Formular bisher erbte.",
+         .Result = mrNo,
+         .Cancel = true});
+}
+
 bool TDesignerDialogs::AskToRecover(const String& title) {
     return AskYesNo(L"„" + title + L"“ wurde nicht gespeichert, bevor der Designer zuletzt endete.",
                     {.Caption = L"&Wiederherstellen",

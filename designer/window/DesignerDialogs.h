@@ -21,6 +21,8 @@ public:
     [[nodiscard]] virtual std::optional<String> AskFileToSave(const String& present);
     /// Another program has written the file: read it again?
     [[nodiscard]] virtual bool AskToReload(const String& title);
+    /// The same for the file of a form that the present one inherits.
+    [[nodiscard]] virtual bool AskToReloadAncestor(const String& title);
     /// Work on that file was left by a run that did not end in good order: take it up?
     [[nodiscard]] virtual bool AskToRecover(const String& title);
     /// Which of these files holds the form that the one to be opened inherits?

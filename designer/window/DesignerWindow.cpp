@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "designer/dialogs/ComponentEditors.h"
+#include "designer/files/FileNames.h"
 #include "designer/inspector/InspectorPages.h"
 #include "designer/model/Arranging.h"
 #include "designer/model/Placing.h"
@@ -234,18 +235,24 @@ void TDesignerWindow::ShowContextMenu(TPoint screen) {
 bool TDesignerWindow::KeepWork() {
     FUnkeptSince.reset();
     const std::string& work = FTypedText ? *FTypedText : FDocument.Text();
+    if (!FTypedText && !FDocument.IsModified()) {
+        GiveUpKeptWork();
+        return true;
+    }
     if (FKept == work) return true;
     try {
-        if (FTypedText || FDocument.IsModified())
-            FAutoSave.Keep(FFile.Name(), work);
-        else
-            FAutoSave.Discard();
+        FAutoSave.Keep(FFile.KeptName(), work);
     } catch (const Exception& error) {
         ShowStatus(error.Message());
         return false;
     }
     FKept = work;
     return true;
+}
+
+void TDesignerWindow::GiveUpKeptWork() {
+    if (FKept) FAutoSave.Discard();
+    FKept.reset();
 }
 
 void TDesignerWindow::ClockTimer(TObject*) {
@@ -282,21 +289,44 @@ void TDesignerWindow::TextExit(TObject*) {
 }
 
 void TDesignerWindow::WindowActivate(TObject*) {
-    if (!FFile.NoticeChangeOnDisk()) return;
-    if (!FDialogs->AskToReload(FFile.Title())) {
-        FDocument.MarkUnsaved();
-        return;
+    LookAtDisk();
+}
+
+/// Asks what to do about files that other programs have changed. True when the form's own was read anew.
+bool TDesignerWindow::LookAtDisk() {
+    switch (FFile.NoticeChangeOnDisk()) {
+        case TDiskChange::None:
+            break;
+        case TDiskChange::Written:
+            if (FDialogs->AskToReload(FFile.Title())) return ReloadFile(), true;
+            FDocument.MarkUnsaved();
+            break;
+        case TDiskChange::Gone:
+            FDocument.MarkUnsaved();
+            ShowStatus(L"Die Datei „" + FFile.Title() + L"“ gibt es nicht mehr");
+            break;
     }
+    const String ancestor = FFile.NoticeChangeOfAncestor();
+    if (!ancestor.empty() && FDialogs->AskToReloadAncestor(FileTitle(ancestor))) ReloadAncestors();
+    return false;
+}
+
+void TDesignerWindow::ReloadFile() {
     try {
         FFile.Open(String(FFile.Name()));
+        ShowProblems();
+    } catch (const EAbort&) {
+        FDocument.MarkUnsaved();
     } catch (const Exception& error) {
+        // What is in the designer is no longer what is in the file.
+        FDocument.MarkUnsaved();
         FDialogs->ShowError(error.Message());
     }
 }
 
 void TDesignerWindow::WindowCloseQuery(TObject*, bool& canClose) {
     canClose = MayLeave();
-    if (canClose) FAutoSave.Discard();
+    if (canClose) GiveUpKeptWork();
 }
 
 }  // namespace designer

@@ -67,7 +67,8 @@ public:
     void Undo();
     void Redo();
     void Cut();
-    void Copy();
+    /// False when there was nothing to copy, or it failed.
+    bool Copy();
     void Paste();
     void Delete();
     void ChooseAll();
@@ -102,9 +103,12 @@ private:
     void ShowContextMenu(TPoint screen);
     void ClockTimer(TObject* sender);
     bool KeepWork();
+    void GiveUpKeptWork();
     void KeepWorkInTime();
     void TextChange(TObject* sender);
     void WindowActivate(TObject* sender);
+    bool LookAtDisk();
+    void ReloadFile();
     void WindowCloseQuery(TObject* sender, bool& canClose);
 
     // DesignerMenu.cpp
@@ -123,6 +127,8 @@ private:
     /// The same for a change to the form: text that was typed becomes the form first.
     bool TryEdit(const std::function<void()>& command);
     [[nodiscard]] TWinControl& PlaceForNew();
+    void ReloadAncestors();
+    void ShowProblems();
     void OpenRecentFile(const String& name);
     [[nodiscard]] bool MayLeave();
     [[nodiscard]] bool AcceptText();
@@ -139,7 +145,7 @@ private:
     TPropertyList FEvents;
     TAutoSave FAutoSave;
     TRecentFiles FRecent;
-    std::string FKept;                      ///< What the autosave holds.
+    std::optional<std::string> FKept;       ///< What the autosave holds.
     std::optional<std::string> FTypedText;  ///< What was typed into the text and could last be parsed.
     std::optional<ULONGLONG> FUnkeptSince;  ///< The tick of the first edit that it does not hold.
 

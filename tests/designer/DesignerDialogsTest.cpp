@@ -53,6 +53,10 @@ TEST_F(DesignerDialogsTest, QuestionsAreAnsweredByKeys) {
     EXPECT_EQ(Dialogs.AskToSave(L"form.dfm"), TDesignerDialogs::TAnswer::Cancel);
     answer(VK_RETURN, L"reload");
     EXPECT_FALSE(Dialogs.AskToReload(L"form.dfm")) << "what is in the designer stays by default";
+    answer(VK_RETURN, L"reload-ancestor");
+    EXPECT_TRUE(Dialogs.AskToReloadAncestor(L"Basis.dfm"));
+    answer(VK_ESCAPE, L"reload-ancestor");
+    EXPECT_FALSE(Dialogs.AskToReloadAncestor(L"Basis.dfm"));
     answer(VK_RETURN, L"recover");
     EXPECT_TRUE(Dialogs.AskToRecover(L"form.dfm"));
     answer(VK_ESCAPE, L"recover");

@@ -11,7 +11,8 @@ struct TPreparedAnswers {
     TDesignerDialogs::TAnswer Save = TDesignerDialogs::TAnswer::Cancel;
     std::optional<String> File;
     std::optional<String> Name;
-    std::vector<String> Files;  ///< Those that were to choose from.
+    std::vector<String> Files;      ///< Those that were to choose from.
+    std::vector<String> Ancestors;  ///< Those that were said to have changed.
     bool Yes = false;
     int Questions = 0;
     std::vector<String> Errors;
@@ -25,6 +26,10 @@ public:
     std::optional<String> AskFileToOpen() override { return FAnswers.File; }
     std::optional<String> AskFileToSave(const String&) override { return FAnswers.File; }
     bool AskToReload(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
+    bool AskToReloadAncestor(const String& title) override {
+        FAnswers.Ancestors.push_back(title);
+        return FAnswers.Yes;
+    }
     bool AskToRecover(const String&) override { return ++FAnswers.Questions, FAnswers.Yes; }
     std::optional<String> AskAncestor(const std::vector<String>& files) override {
         FAnswers.Files = files;
