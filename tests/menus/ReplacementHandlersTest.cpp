@@ -115,6 +115,17 @@ TEST_F(ReplacementHandlersTest, TheReplacementMayGoWhenASubmenuOpens) {
     Bar->CloseMenu();
 }
 
+TEST_F(ReplacementHandlersTest, TheItemMayGoWhenItsSubmenuOpens) {
+    const FreedMemory guard;
+    File->OnClick = [&](TObject*) { delete File; };
+    Replace();
+    Input.Chord({VK_MENU}, 'F');
+    EXPECT_EQ(Levels(), 0U);
+    EXPECT_EQ(FreedMemory::WrittenBlocks(), 0);
+    EXPECT_TRUE(Errors.empty());
+    Bar->CloseMenu();
+}
+
 TEST_F(ReplacementHandlersTest, TheReplacementMayGoWhenItAsks) {
     const FreedMemory guard;
     Replace();
