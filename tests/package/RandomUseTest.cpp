@@ -94,8 +94,11 @@ protected:
             CheckErrors();
             if (!FForm->GetVisible()) FForm->Show();
         }
+        // Where the right button goes up a menu may open.
+        RescueLater();
         for (const MouseButton button : {MouseButton::Left, MouseButton::Right, MouseButton::Middle})
             Input.Release(button);
+        DropSteps();
         CancelDrag();
         FForm.reset();
         PumpAll();
