@@ -206,10 +206,11 @@ void TCustomQV7SkinComboBox::SetFocus() {
 }
 
 void TCustomQV7SkinComboBox::SetEnabled(bool Value) {
+    const TLifeGuard guard(*this);
     TCurvyPanel::SetEnabled(Value);
-    if (!FComboBox) return;
+    if (!guard.IsAlive() || !FComboBox) return;
     FComboBox->SetEnabled(Value);
-    FComboBox->GetFont().SetColor(InputTextColor(Value));
+    if (guard.IsAlive()) FComboBox->GetFont().SetColor(InputTextColor(Value));
 }
 
 // --- choosing by number

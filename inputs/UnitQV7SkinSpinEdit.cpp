@@ -114,10 +114,11 @@ void TCustomQV7SkinSpinEdit::SetFocus() {
 }
 
 void TCustomQV7SkinSpinEdit::SetEnabled(bool Value) {
+    const TLifeGuard guard(*this);
     TCurvyPanel::SetEnabled(Value);
-    if (!FEdit) return;
+    if (!guard.IsAlive() || !FEdit) return;
     FEdit->SetEnabled(Value);
-    FEdit->GetFont().SetColor(InputTextColor(Value));
+    if (guard.IsAlive()) FEdit->GetFont().SetColor(InputTextColor(Value));
 }
 
 void TCustomQV7SkinSpinEdit::DoChange(TObject*) {

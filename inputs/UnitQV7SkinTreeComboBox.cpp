@@ -207,10 +207,11 @@ void TCustomQV7SkinTreeComboBox::SetFocus() {
 }
 
 void TCustomQV7SkinTreeComboBox::SetEnabled(bool Value) {
+    const TLifeGuard guard(*this);
     TCustomQV7SkinContainer::SetEnabled(Value);
-    if (!FComboBox) return;
+    if (!guard.IsAlive() || !FComboBox) return;
     FComboBox->SetEnabled(Value);
-    FComboBox->GetFont().SetColor(InputTextColor(Value));
+    if (guard.IsAlive()) FComboBox->GetFont().SetColor(InputTextColor(Value));
 }
 
 // --- events

@@ -83,6 +83,7 @@ void TFlatGroupBox::Paint() {
 }
 
 void TFlatGroupBox::Dispatch(TMessage& message) {
+    const TLifeGuard guard(*this);
     switch (message.Msg) {
         case CM_DIALOGCHAR:
             if (IsAccel(static_cast<wchar_t>(message.CharCode()), GetCaption()) && CanFocus()) {
@@ -93,11 +94,13 @@ void TFlatGroupBox::Dispatch(TMessage& message) {
         case CM_TEXTCHANGED:
         case CM_ENABLEDCHANGED:
             TCustomControl::Dispatch(message);
-            return Invalidate();
+            if (guard.IsAlive()) Invalidate();
+            return;
         case CM_FONTCHANGED:
             TCustomControl::Dispatch(message);
-            Realign();
-            return Invalidate();
+            if (guard.IsAlive()) Realign();
+            if (guard.IsAlive()) Invalidate();
+            return;
         default:
             return TCustomControl::Dispatch(message);
     }

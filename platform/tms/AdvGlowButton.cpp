@@ -98,8 +98,9 @@ void TAdvGlowButton::Loaded() {
 }
 
 void TAdvGlowButton::Dispatch(TMessage& message) {
+    const TLifeGuard guard(*this);
     TPushControl::Dispatch(message);
-    if (message.Msg == CM_TEXTCHANGED || message.Msg == CM_FONTCHANGED) AdjustSize();
+    if ((message.Msg == CM_TEXTCHANGED || message.Msg == CM_FONTCHANGED) && guard.IsAlive()) AdjustSize();
 }
 
 // --- content

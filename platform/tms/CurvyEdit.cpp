@@ -163,8 +163,9 @@ bool TCurvyEdit::Focused() const {
 }
 
 void TCurvyEdit::SetEnabled(bool value) {
+    const TLifeGuard guard(*this);
     TCurvyControl::SetEnabled(value);
-    FEdit->SetEnabled(value);
+    if (guard.IsAlive()) FEdit->SetEnabled(value);
 }
 
 void TCurvyEdit::Dispatch(TMessage& message) {

@@ -193,9 +193,10 @@ void TOwnAdvTreeComboBoxEx::SetButtonWidth(int value) {
 }
 
 void TOwnAdvTreeComboBoxEx::SetEnabled(bool value) {
+    const TLifeGuard guard(*this);
     TCustomControl::SetEnabled(value);
-    FEdit->SetEnabled(value);
-    Invalidate();
+    if (guard.IsAlive()) FEdit->SetEnabled(value);
+    if (guard.IsAlive()) Invalidate();
 }
 
 // --- text and choice

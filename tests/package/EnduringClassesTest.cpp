@@ -50,6 +50,11 @@ protected:
             EXPECT_LT(count, times / 4) << kind;
     }
 
+    static void On(LivingScene& scene, const std::string& name, const std::function<void()>& action) {
+        for (const SceneEvent& event : scene.Events())
+            if (event.Name == name) event.Bind(action);
+    }
+
     CalendarFonts FCalendarFonts;
     FreedMemory FGuard;
 };
@@ -122,6 +127,21 @@ TEST_P(EnduringClasses, NeedNoParent) {
             if (row->Kind() != TPropertyKind::Event) (void)row->Get(*alone);
     });
     EXPECT_EQ(Leaks(), "");
+}
+
+TEST_P(EnduringClasses, MayBeFreedWhenDisablingTakesTheFocus) {
+    LivingScene scene(*GetParam());
+    scene.Show();
+    auto* window = dynamic_cast<TWinControl*>(scene.Control());
+    if (IsForm() || !window || !window->CanFocus()) return;
+    bool left = false;
+    On(scene, "OnExit", [&] {
+        left = true;
+        scene.Subject()->Free();
+    });
+    window->SetFocus();
+    window->SetEnabled(false);
+    EXPECT_EQ(scene.Subject() == nullptr, left);
 }
 
 // --- values

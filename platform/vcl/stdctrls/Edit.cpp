@@ -159,6 +159,7 @@ void TCustomEdit::UpdateHeight() {
 }
 
 void TCustomEdit::Dispatch(TMessage& message) {
+    const TLifeGuard guard(*this);
     switch (message.Msg) {
         case CN_COMMAND:
             if (message.WParamHi() == EN_CHANGE && !FCreating) Change();
@@ -171,17 +172,17 @@ void TCustomEdit::Dispatch(TMessage& message) {
         }
         case CM_FONTCHANGED:
             TWinControl::Dispatch(message);
-            UpdateHeight();
+            if (guard.IsAlive()) UpdateHeight();
             break;
         case CM_CTL3DCHANGED:
             TWinControl::Dispatch(message);
-            UpdateHeight();
-            if (FBorderStyle == bsSingle) RecreateWnd();
+            if (guard.IsAlive()) UpdateHeight();
+            if (guard.IsAlive() && FBorderStyle == bsSingle) RecreateWnd();
             break;
         case CM_TEXTCHANGED:
             TWinControl::Dispatch(message);
             // A single line with a window has told by EN_CHANGE.
-            if (!HandleAllocated() || IsMultiLine()) Change();
+            if (guard.IsAlive() && (!HandleAllocated() || IsMultiLine())) Change();
             break;
         default:
             TWinControl::Dispatch(message);
@@ -189,8 +190,9 @@ void TCustomEdit::Dispatch(TMessage& message) {
 }
 
 void TCustomEdit::Change() {
+    const TLifeGuard guard(*this);
     Perform(CM_CHANGED, 0, this);
-    OnChange(this);
+    if (guard.IsAlive()) OnChange(this);
 }
 
 // --- selection and clipboard

@@ -96,11 +96,12 @@ void TCustomLabel::Loaded() {
 }
 
 void TCustomLabel::Dispatch(TMessage& message) {
+    const TLifeGuard guard(*this);
     switch (message.Msg) {
         case CM_TEXTCHANGED:
         case CM_FONTCHANGED:
             TGraphicControl::Dispatch(message);
-            FollowText();
+            if (guard.IsAlive()) FollowText();
             break;
         case CM_DIALOGCHAR:
             if (IsAccelFor(message)) {

@@ -188,10 +188,12 @@ void TCustomListBox::Dispatch(TMessage& message) {
             if (message.WParamHi() == LBN_SELCHANGE) Click();
             if (message.WParamHi() == LBN_DBLCLK) DblClick();
             break;
-        case CM_CTL3DCHANGED:
+        case CM_CTL3DCHANGED: {
+            const TLifeGuard guard(*this);
             TWinControl::Dispatch(message);
-            if (FBorderStyle == bsSingle) RecreateWnd();
+            if (guard.IsAlive() && FBorderStyle == bsSingle) RecreateWnd();
             break;
+        }
         default:
             TWinControl::Dispatch(message);
     }

@@ -133,23 +133,24 @@ bool TCustomPanel::CanAutoSize(int& newWidth, int& newHeight) {
 }
 
 void TCustomPanel::Dispatch(TMessage& message) {
+    const TLifeGuard guard(*this);
     switch (message.Msg) {
         case CM_BORDERCHANGED:
         case CM_ENABLEDCHANGED:
         case CM_TEXTCHANGED:
             TCustomControl::Dispatch(message);
-            Invalidate();
+            if (guard.IsAlive()) Invalidate();
             break;
         case CM_CTL3DCHANGED:
             if (FBorderStyle == bsSingle) RecreateWnd();
-            TCustomControl::Dispatch(message);
+            if (guard.IsAlive()) TCustomControl::Dispatch(message);
             break;
         case CM_ISTOOLCONTROL:
             message.Result = 1;
             break;
         case WM_SIZE:
             TCustomControl::Dispatch(message);
-            SizeChanged();
+            if (guard.IsAlive()) SizeChanged();
             break;
         default:
             TCustomControl::Dispatch(message);

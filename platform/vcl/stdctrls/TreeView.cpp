@@ -231,8 +231,9 @@ void TCustomTreeView::WndProc(TMessage& message) {
 
 void TCustomTreeView::Dispatch(TMessage& message) {
     if (message.Msg == CN_NOTIFY) return CnNotify(message);
+    const TLifeGuard guard(*this);
     TWinControl::Dispatch(message);
-    if (message.Msg == CM_COLORCHANGED || message.Msg == CM_FONTCHANGED) ApplyColors();
+    if ((message.Msg == CM_COLORCHANGED || message.Msg == CM_FONTCHANGED) && guard.IsAlive()) ApplyColors();
 }
 
 /// The user expanded or collapsed the node. A collapsed one takes over the selection of those below it, of
