@@ -7,6 +7,7 @@
 #include "inputs/InputColors.h"
 #include "inputs/InputNumbers.h"
 #include "platform/tms/CurvyRows.h"
+#include "platform/vcl/controls/InnerEditor.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/Exceptions.h"
 #include "platform/vcl/graphics/Canvas.h"
@@ -202,7 +203,7 @@ void TCustomQV7SkinComboBox::SelectAll() {
 void TCustomQV7SkinComboBox::SetFocus() {
     const TLifeGuard guard(*this);
     TCurvyPanel::SetFocus();
-    if (guard.IsAlive() && FComboBox) FComboBox->SetFocus();
+    if (guard.IsAlive() && FComboBox) HandFocusIn(*this, *FComboBox);
 }
 
 void TCustomQV7SkinComboBox::SetEnabled(bool Value) {

@@ -4,6 +4,7 @@
 
 #include "inputs/DropButton.h"
 #include "inputs/InputColors.h"
+#include "platform/vcl/controls/InnerEditor.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
 #include "platform/vcl/core/Exceptions.h"
@@ -203,7 +204,7 @@ void TCustomQV7SkinTreeComboBox::SelectAll() {
 void TCustomQV7SkinTreeComboBox::SetFocus() {
     const TLifeGuard guard(*this);
     TCustomQV7SkinContainer::SetFocus();
-    if (guard.IsAlive() && GetComboBox()) FComboBox->SetFocus();
+    if (guard.IsAlive() && GetComboBox()) HandFocusIn(*this, *FComboBox);
 }
 
 void TCustomQV7SkinTreeComboBox::SetEnabled(bool Value) {

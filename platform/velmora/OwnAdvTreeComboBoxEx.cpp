@@ -366,8 +366,7 @@ void TOwnAdvTreeComboBoxEx::Dispatch(TMessage& message) {
     if (!guard.IsAlive()) return;
     switch (message.Msg) {
         case WM_SETFOCUS:
-            if (FEdit->CanFocus()) FEdit->SetFocus();
-            return;
+            return HandFocusIn(*this, *FEdit);
         case CM_FONTCHANGED:
             return PlaceEditor();
         case CM_COLORCHANGED:

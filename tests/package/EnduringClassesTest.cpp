@@ -144,6 +144,18 @@ TEST_P(EnduringClasses, MayBeFreedWhenDisablingTakesTheFocus) {
     EXPECT_EQ(scene.Subject() == nullptr, left);
 }
 
+TEST_P(EnduringClasses, MayCloseTheFormWhenTheyGetTheFocus) {
+    LivingScene scene(*GetParam());
+    scene.Show();
+    auto* window = dynamic_cast<TWinControl*>(scene.Control());
+    if (IsForm() || !window || !window->CanFocus()) return;
+    scene.Other()->SetFocus();
+    On(scene, "OnEnter", [&] { scene.Form()->Close(); });
+    EXPECT_NO_THROW(window->SetFocus());
+    PumpAll();
+    EXPECT_FALSE(window->Focused() && !scene.Form()->GetVisible());
+}
+
 // --- values
 
 std::vector<TPropertyValue> ExtremesOf(const TPublishedProperty& row) {

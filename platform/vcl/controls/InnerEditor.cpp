@@ -21,4 +21,10 @@ int EditorLineHeight(const TFont& font) {
     return std::max(size < 0 ? -size * 5 / 4 : size, 1);
 }
 
+void HandFocusIn(TWinControl& outer, TWinControl& inner) {
+    TParentForm* form = GetParentForm(&outer);
+    if (form && (form->GetActiveControl() != &outer || !form->FormControl().CanFocus())) return;
+    if (inner.CanFocus()) inner.SetFocus();
+}
+
 }  // namespace vcl

@@ -128,11 +128,13 @@ bool TCustomForm::MoveFocusTo(TWinControl* control) {
     const unsigned move = screen.FFocusMoves;
     const TLifeGuard guard(*this);
     const TLifeGuard controlGuard(*control);
-    // A handler may free the form or the control, or move the focus elsewhere; then there is nothing left to
-    // do.
+    const bool wasVisible = GetVisible();
+    // A handler may free the form or the control, close the form, or move the focus elsewhere; then there is
+    // nothing left to do.
     const auto tell = [&](TWinControl& receiver, UINT message, LPARAM parameter = 0) {
         receiver.Perform(message, 0, parameter);
-        return guard.IsAlive() && controlGuard.IsAlive() && screen.FFocusMoves == move;
+        return guard.IsAlive() && controlGuard.IsAlive() && screen.FFocusMoves == move &&
+               (GetVisible() || !wasVisible);
     };
     if (screen.FFocusedForm != this) {
         if (TCustomForm* former = std::exchange(screen.FFocusedForm, nullptr)) {
