@@ -141,7 +141,9 @@ void TWinControl::CnSysChar(TMessage& message) {
 
 bool TWinControl::OfferToForm(UINT msg, const TMessage& key) {
     TParentForm* form = GetParentForm(this);
-    return form && form->FormControl().Perform(msg, key.WParam, key.LParam) != 0;
+    // One that a handler of the key closed has no control that could take it.
+    return form && form->FormControl().GetVisible() &&
+           form->FormControl().Perform(msg, key.WParam, key.LParam) != 0;
 }
 
 }  // namespace vcl

@@ -167,5 +167,15 @@ TEST_F(FormKeysTest, ActionsOfShownControlsAreUpdatedWhenIdle) {
     button->SetAction(nullptr);
 }
 
+TEST_F(FormKeysTest, AFormThatItsShortCutClosesTakesTheKeyNoFurther) {
+    auto* a = Make<TEdit>({10, 10, 90, 31});
+    Make<TEdit>({10, 40, 90, 61});
+    a->SetFocus();
+    Form().OnShortCut = [this](const TMessage&, bool&) { Form().Close(); };
+    Input.KeyPress(VK_TAB);
+    EXPECT_FALSE(Form().GetVisible());
+    // Errors would have come to the application.
+}
+
 }  // namespace
 }  // namespace test
