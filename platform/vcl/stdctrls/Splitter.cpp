@@ -275,7 +275,7 @@ bool TSplitter::ApplySize(int size) {
     }
     if (!guard.IsAlive()) return false;
     Update();
-    return Raise(OnMoved);
+    return guard.IsAlive() && Raise(OnMoved);
 }
 
 /// Moves the edge between the control and the splitter, and all that lies further inside, so that the layout

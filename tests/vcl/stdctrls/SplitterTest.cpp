@@ -326,5 +326,19 @@ TEST_F(SplitterTest, TheRightButtonDoesNothing) {
     EXPECT_EQ(Side->GetWidth(), 100);
 }
 
+TEST_F(SplitterTest, MayBeFreedWhenItIsPaintedAtItsNewPlace) {
+    Build(alLeft);
+    Bar->SetResizeStyle(rsUpdate);
+    int moved = 0;
+    Bar->OnMoved = [&](TObject*) { ++moved; };
+    PressOn(*Bar);
+    Bar->OnPaint = [this](TObject*) { delete std::exchange(Bar, nullptr); };
+    Input.MoveTo(Grip(*Bar, 30));
+    EXPECT_EQ(Bar, nullptr);
+    EXPECT_EQ(moved, 0);
+    EXPECT_EQ(GetCapture(), nullptr);
+    Input.Release();
+}
+
 }  // namespace
 }  // namespace test
