@@ -52,6 +52,19 @@ public:
         Replace(start, isLast ? lines.Length() : lines.Start(index + 1), String());
     }
     void Clear() override { FMemo.Clear(); }
+    /// In one change, so that the host hears of it once, and may free the memo then.
+    void Assign(const TPersistent* source) override {
+        const auto* lines = dynamic_cast<const TStrings*>(source);
+        if (!lines) return TStrings::Assign(source);
+        String all;
+        const int count = lines->GetCount();
+        for (int i = 0; i < count; ++i) {
+            const String line = lines->Get(i);
+            const bool isLast = i + 1 == count;
+            all += isLast ? Last(line) : line + String(LineBreak);
+        }
+        FMemo.SetText(all);
+    }
 
 private:
     /// Where the lines of a text begin and end.

@@ -103,5 +103,28 @@ TEST_F(MemoTest, ANewWindowKeepsTheText) {
     EXPECT_TRUE(GetWindowLongW(Memo->WindowHandle(), GWL_STYLE) & WS_VSCROLL);
 }
 
+TEST_F(MemoTest, AllLinesAreTakenOverInOneChange) {
+    TStringList lines;
+    for (const wchar_t* line : {L"", L"one", L"", L"two", L""})
+        lines.Add(line);
+    int changes = 0;
+    Memo->OnChange = [&](TObject*) { ++changes; };
+    Memo->GetLines().Assign(&lines);
+    EXPECT_EQ(changes, 1);
+    EXPECT_EQ(Memo->GetText(), L"\r\none\r\n\r\ntwo\r\n\r\n");
+    EXPECT_TRUE(Memo->GetLines().Equals(lines));
+    Memo->GetLines().Assign(&Memo->GetLines());
+    EXPECT_TRUE(Memo->GetLines().Equals(lines));
+}
+
+TEST_F(MemoTest, MayBeFreedWhileLinesAreTakenOver) {
+    TStringList lines;
+    lines.Add(L"one");
+    lines.Add(L"two");
+    Memo->OnChange = [this](TObject*) { delete std::exchange(Memo, nullptr); };
+    Memo->GetLines().Assign(&lines);
+    EXPECT_EQ(Memo, nullptr);
+}
+
 }  // namespace
 }  // namespace test
