@@ -49,8 +49,9 @@ void MakeSystemBrushes() {
 void OpenAMenu(HWND owner) {
     const HMENU menu = CreatePopupMenu();
     AppendMenuW(menu, MF_STRING, 1, L"x");
-    // The pens of its line.
+    // The pens of its line, and of grey texts.
     AppendMenuW(menu, MF_SEPARATOR, 0, nullptr);
+    AppendMenuW(menu, MF_STRING | MF_GRAYED, 2, L"y");
     Later([] { EndMenu(); });
     TrackPopupMenu(menu, 0, 0, 0, 0, owner, nullptr);
     DestroyMenu(menu);

@@ -5,7 +5,6 @@
 #include <algorithm>
 
 #include "platform/vcl/controls/AppServices.h"
-#include "platform/vcl/controls/ControlParts.h"
 #include "platform/vcl/controls/ParentForm.h"
 #include "platform/vcl/controls/PublishedRows.h"
 #include "platform/vcl/core/DefineClass.h"
@@ -227,6 +226,20 @@ LRESULT CALLBACK TCustomComboBox::EditProcedure(HWND window, UINT msg, WPARAM wP
     return ::DefSubclassProc(window, msg, message.WParam, lParam);
 }
 
+/// The time while the editor offers us its context menu.
+class TCustomComboBox::TAsking : public TLifeGuard {
+public:
+    explicit TAsking(TCustomComboBox& box) : TLifeGuard(box), FBox(box) { box.FEditorAsks = true; }
+    ~TAsking() {
+        if (IsAlive()) FBox.FEditorAsks = false;
+    }
+    TAsking(const TAsking&) = delete;
+    TAsking& operator=(const TAsking&) = delete;
+
+private:
+    TCustomComboBox& FBox;
+};
+
 /// A message to the editor inside: true when it was used, or the combo box is gone.
 bool TCustomComboBox::EditMessage(TMessage& message) {
     switch (message.Msg) {
@@ -253,9 +266,9 @@ bool TCustomComboBox::EditMessage(TMessage& message) {
             return closes;
         }
         case WM_CONTEXTMENU: {
-            TControl* holder = MenuHolderOf(*this);
-            if (holder) message.Result = holder->Perform(WM_CONTEXTMENU, message.WParam, message.LParam);
-            return holder != nullptr;
+            const TAsking asking(*this);
+            message.Result = Perform(WM_CONTEXTMENU, message.WParam, message.LParam);
+            return !asking.IsAlive() || message.Result != 0;
         }
         default:
             return false;
@@ -287,6 +300,11 @@ void TCustomComboBox::Dispatch(TMessage& message) {
         default:
             TWinControl::Dispatch(message);
     }
+}
+
+void TCustomComboBox::DefaultHandler(TMessage& message) {
+    // The editor has a menu of its own.
+    if (message.Msg != WM_CONTEXTMENU || !FEditorAsks) TWinControl::DefaultHandler(message);
 }
 
 void TCustomComboBox::CnCommand(const TMessage& message) {

@@ -79,6 +79,7 @@ public:
 
 protected:
     void Dispatch(TMessage& message) override;
+    void DefaultHandler(TMessage& message) override;
     void CreateParams(TCreateParams& params) override;
     void CreateWnd() override;
     void DestroyWnd() override;
@@ -98,6 +99,7 @@ protected:
 
 private:
     class TItems;
+    class TAsking;
 
     static LRESULT CALLBACK EditProcedure(HWND window, UINT msg, WPARAM wParam, LPARAM lParam, UINT_PTR id,
                                           DWORD_PTR self);
@@ -117,6 +119,7 @@ private:
     int FMaxLength = 0;
     bool FSorted = false;
     bool FEditFocused = false;
+    bool FEditorAsks = false;
 };
 
 /// The combo box for forms.

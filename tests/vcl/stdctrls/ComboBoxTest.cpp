@@ -189,4 +189,41 @@ TEST_F(ComboBox, TheFormMayGoWhileTheListIsOpen) {
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
+TEST_F(ComboBox, AContextMenuOverTheEditorIsOffered) {
+    std::vector<TPoint> offered;
+    Box().OnContextPopup = [&](TObject*, TPoint point, bool& handled) {
+        offered.push_back(point);
+        handled = true;
+    };
+    Input.ClickAt(Box().EditHandle(), 5, 5, MouseButton::Right);
+    Box().SetFocus();
+    Input.KeyPress(VK_APPS);
+    ASSERT_EQ(offered.size(), 2U);
+    EXPECT_TRUE(Box().GetClientRect().Contains(offered[0]));
+    EXPECT_EQ(offered[1], TPoint(-1, -1));
+}
+
+TEST_F(ComboBox, TheMenuIsThatOfTheEditorWhenNobodyElseHasOne) {
+    int offered = 0;
+    Box().OnContextPopup = [&](TObject*, TPoint, bool&) { ++offered; };
+    bool asked = false;
+    Form().OnContextPopup = [&](TObject*, TPoint, bool&) { asked = true; };
+    bool opened = false;
+    test::When(
+        [] {
+            GUITHREADINFO info{};
+            info.cbSize = sizeof info;
+            ::GetGUIThreadInfo(::GetCurrentThreadId(), &info);
+            return (info.flags & GUI_INMENUMODE) != 0;
+        },
+        [&] {
+            opened = true;
+            ::EndMenu();
+        });
+    Input.ClickAt(Box().EditHandle(), 5, 5, MouseButton::Right);
+    EXPECT_TRUE(test::PumpUntil([&] { return opened; }));
+    EXPECT_EQ(offered, 1);
+    EXPECT_FALSE(asked);
+}
+
 }  // namespace
