@@ -227,6 +227,16 @@ void TCanvas::TextRect(const TRect& r, int x, int y, StringView text) {
     Changed();
 }
 
+namespace {
+
+/// The system divides by the average width of a character to find the next tab stop.
+bool HasTabStops(HDC dc) {
+    TEXTMETRICW metrics{};
+    return ::GetTextMetricsW(dc, &metrics) && metrics.tmAveCharWidth > 0;
+}
+
+}  // namespace
+
 int TCanvas::TextRect(TRect& r, StringView text, UINT flags) {
     const bool measuring = (flags & DT_CALCRECT) != 0;
     if (!measuring) Changing();
@@ -235,6 +245,8 @@ int TCanvas::TextRect(TRect& r, StringView text, UINT flags) {
         NeedFont();
     else
         NeedText();
+    const bool hasTabs = (flags & DT_EXPANDTABS) && text.find(L'\t') != StringView::npos;
+    if (hasTabs && !HasTabStops(dc)) flags &= ~static_cast<UINT>(DT_EXPANDTABS);
     // The text is not ours to change.
     const int height = ::DrawTextW(dc, text.data(), static_cast<int>(text.size()), r.AsRect(),
                                    flags & ~static_cast<UINT>(DT_MODIFYSTRING));

@@ -128,5 +128,15 @@ TEST_F(CanvasTextTest, AccessKeyMarksAreStripped) {
     EXPECT_EQ(StripHotkey(L""), L"");
 }
 
+TEST_F(CanvasTextTest, TabsAreDrawnInTheSmallestFonts) {
+    for (const int height : {-1, 1, -2, 2}) {
+        Canvas().GetFont().SetHeight(height);
+        TRect rect{0, 0, 100, 30};
+        Canvas().TextRect(rect, L"a\tb", DT_EXPANDTABS | DT_SINGLELINE);
+        Canvas().TextRect(rect, L"a\tb", DT_EXPANDTABS | DT_CALCRECT);
+        EXPECT_LT(rect.Width(), 30) << height;
+    }
+}
+
 }  // namespace
 }  // namespace vcl
