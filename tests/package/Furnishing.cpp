@@ -165,4 +165,18 @@ Furniture Furnish(TComponent& subject, TCustomForm& form, TWinControl& place) {
     return {};
 }
 
+void Empty(TComponent& subject) {
+    if (auto* bar = dynamic_cast<TQV7SkinExplorerBar*>(&subject)) return bar->GetGroups().Clear();
+    if (auto* header = dynamic_cast<TQV7SkinHeaderControl*>(&subject)) return header->GetItems().Clear();
+    if (auto* tree = dynamic_cast<TCustomQV7SkinTreeComboBox*>(&subject)) return tree->GetTreeItems().Clear();
+    if (auto* menu = dynamic_cast<TMenu*>(&subject)) return menu->GetItems().Clear();
+    if (auto* drop = dynamic_cast<TCustomQV7SkinComboBoxCustomDropDown*>(&subject))
+        return drop->SetDropDownForm(nullptr);
+    for (const TPublishedProperty* row : subject.ClassType().AllProperties()) {
+        if (row->Kind() != TPropertyKind::Nested) continue;
+        if (auto* lines = dynamic_cast<TStrings*>(std::get<TPersistent*>(row->Get(subject))))
+            return lines->Clear();
+    }
+}
+
 }  // namespace test

@@ -18,4 +18,7 @@ struct Furniture {
 /// The item lives as long as the component.
 Furniture Furnish(vcl::TComponent& subject, vcl::TCustomForm& form, vcl::TWinControl& place);
 
+/// Takes everything out again: lines, groups, items.
+void Empty(vcl::TComponent& subject);
+
 }  // namespace test

@@ -259,11 +259,18 @@ void ChangeProperties(const Play& play) {
         if (!play.Scene.Subject()) return;
         try {
             change.Apply(*play.Scene.Subject());
-        } catch (const Exception&) {
+        } catch (const Exception& error) {
             // Refused, unless it came from a handler; the others change something.
-            if (play.Done()) throw;
+            if (error.what() == ToUtf8(HandlerErrorText)) throw;
         }
     }
+    Wait(play);
+}
+
+/// Such as a list whose entries the host draws.
+void ChangeStyle(const Play& play) {
+    const TPublishedProperty* style = play.Scene.Subject()->ClassType().FindProperty(L"Style");
+    if (style && style->Kind() == TPropertyKind::Enumeration) style->Set(*play.Scene.Subject(), style->Maximum());
     Wait(play);
 }
 
@@ -397,6 +404,7 @@ void AddProgram(std::vector<Step>& steps) {
     steps.push_back({"activate", Activate});
     steps.push_back({"idle", Idle});
     steps.push_back({"change properties", ChangeProperties});
+    steps.push_back({"change style", ChangeStyle});
     steps.push_back({"modal dialog", ShowModal});
     steps.push_back({"system changes", TellSystemChanges});
     steps.push_back({"minimize", Minimize});

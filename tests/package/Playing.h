@@ -9,6 +9,9 @@
 
 namespace test {
 
+/// Text of the errors that handlers raise in tests.
+inline constexpr const wchar_t* HandlerErrorText = L"Raised by a handler";
+
 /// What a step works with.
 struct Play {
     LivingScene& Scene;

@@ -21,6 +21,7 @@
 #include "tests/support/CalendarFonts.h"
 #include "tests/support/FormTest.h"
 #include "tests/support/FreedMemory.h"
+#include "tests/support/LeftOut.h"
 
 // A restless user, a restless program and a restless system at work on a form with every class of the
 // palette.
@@ -69,6 +70,7 @@ public:
 
 protected:
     void TearDown() override {
+        FMenus.Sweep();
         FormTest::TearDown();
         EXPECT_EQ(FreedMemory::WrittenBlocks(), 0) << "blocks written to after they were freed";
     }
@@ -155,6 +157,7 @@ private:
         const TWinControl* window = AnyWindow();
         const TPoint point = window->ClientToScreen({Next(window->GetWidth() + 10), Next(60)});
         Input.MoveTo({std::clamp(point.X, 0, 1020), std::clamp(point.Y, 0, 760)});
+        if (IsOnFrame()) return;
         const auto button = AnyOf(std::initializer_list<MouseButton>{
             MouseButton::Left, MouseButton::Left, MouseButton::Right, MouseButton::Middle});
         switch (Next(6)) {
@@ -170,6 +173,16 @@ private:
             default:
                 return;
         }
+    }
+
+    /// Where a button of the frame is pressed, or the caption by the right button, the system handles no message
+    /// but the mouse's until it goes up.
+    [[nodiscard]] bool IsOnFrame() const {
+        constexpr std::array<LRESULT, 6> parts{HTCAPTION, HTSYSMENU, HTMINBUTTON, HTMAXBUTTON, HTCLOSE, HTHELP};
+        const POINT point = Input.Position();
+        const LRESULT part =
+            SendMessageW(WindowFromPoint(point), WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y));
+        return std::ranges::find(parts, part) != parts.end();
     }
 
     void UseKeys() {
@@ -245,6 +258,9 @@ private:
     std::mt19937 FRandom;
     std::unique_ptr<TForm> FForm;
     CalendarFonts FCalendarFonts;
+    CalendarMenus FMenus;
+    // The system has one for each window that it happens to paint at the same time; ours are in the ledger.
+    const LeftOut FRegions{"gdi:region"};
     FreedMemory FGuard;
 };
 

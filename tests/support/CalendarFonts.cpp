@@ -20,6 +20,22 @@ std::set<HGDIOBJ> BoldFonts() {
     return fonts;
 }
 
+/// A menu with one item, or with one for each month, counted from 1.
+bool IsOfCalendar(HMENU menu) {
+    const int count = IsMenu(menu) ? GetMenuItemCount(menu) : 0;
+    return (count == 1 || count == 12) && GetMenuItemID(menu, 0) == 1;
+}
+
+std::set<HMENU> MenusOfCalendars() {
+    std::set<HMENU> menus;
+    // Half a handle is enough for the system.
+    for (ULONG_PTR number = 0x20; number < HandleEnd; number += 2) {
+        const auto menu = reinterpret_cast<HMENU>(number);
+        if (IsOfCalendar(menu)) menus.insert(menu);
+    }
+    return menus;
+}
+
 std::vector<const CalendarFonts*>& Living() {
     static std::vector<const CalendarFonts*> living;
     return living;
@@ -48,6 +64,13 @@ void CalendarFonts::SweepAll() {
 void CalendarFonts::Sweep() const {
     for (const HGDIOBJ font : BoldFonts())
         if (!FBefore.contains(font)) DeleteObject(font);
+}
+
+CalendarMenus::CalendarMenus() : FBefore(MenusOfCalendars()) {}
+
+void CalendarMenus::Sweep() const {
+    for (const HMENU menu : MenusOfCalendars())
+        if (!FBefore.contains(menu)) DestroyMenu(menu);
 }
 
 }  // namespace test

@@ -23,4 +23,16 @@ private:
     std::set<HGDIOBJ> FBefore;
 };
 
+/// And it makes a menu for each right click, and for each click on the month.
+class CalendarMenus {
+public:
+    CalendarMenus();
+    /// Destroys the menus of calendars that came since the object was made. For the end of a test, when all its
+    /// controls are gone.
+    void Sweep() const;
+
+private:
+    std::set<HMENU> FBefore;
+};
+
 }  // namespace test
