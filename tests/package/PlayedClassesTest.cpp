@@ -281,8 +281,7 @@ protected:
             {"hides it", [](LivingScene& scene) { scene.Target()->SetVisible(false); }},
             {"makes it smaller", [](LivingScene& scene) { scene.Target()->SetBounds(2, 2, 9, 9); }},
             {"makes the windows anew", [](LivingScene& scene) { scene.Form()->Perform(CM_RECREATEWND); }},
-            {"gives it another parent",
-             [](LivingScene& scene) { scene.Target()->SetParent(scene.Form()); }},
+            {"gives it another parent", [](LivingScene& scene) { scene.Target()->SetParent(scene.Form()); }},
             {"gives the focus away",
              [](LivingScene& scene) {
                  if (scene.Form()->CanFocus() && scene.Other()->CanFocus()) scene.Other()->SetFocus();
@@ -384,8 +383,8 @@ protected:
             for (const int number : numbers)
                 for (const Way way : {Way::Component, Way::Parent, Way::Form}) {
                     if (isForm && way != Way::Form) continue;
-                    Apart(step.Name + ", message " + std::to_string(number) + " of " +
-                              std::to_string(count) + ", way " + std::to_string(static_cast<int>(way)),
+                    Apart(step.Name + ", message " + std::to_string(number) + " of " + std::to_string(count) +
+                              ", way " + std::to_string(static_cast<int>(way)),
                           [&] { FreeAtMessage(step, number, way); });
                 }
         }

@@ -270,7 +270,8 @@ void ChangeProperties(const Play& play) {
 /// Such as a list whose entries the host draws.
 void ChangeStyle(const Play& play) {
     const TPublishedProperty* style = play.Scene.Subject()->ClassType().FindProperty(L"Style");
-    if (style && style->Kind() == TPropertyKind::Enumeration) style->Set(*play.Scene.Subject(), style->Maximum());
+    if (style && style->Kind() == TPropertyKind::Enumeration)
+        style->Set(*play.Scene.Subject(), style->Maximum());
     Wait(play);
 }
 

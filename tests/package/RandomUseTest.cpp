@@ -175,10 +175,11 @@ private:
         }
     }
 
-    /// Where a button of the frame is pressed, or the caption by the right button, the system handles no message
-    /// but the mouse's until it goes up.
+    /// Where a button of the frame is pressed, or the caption by the right button, the system handles no
+    /// message but the mouse's until it goes up.
     [[nodiscard]] bool IsOnFrame() const {
-        constexpr std::array<LRESULT, 6> parts{HTCAPTION, HTSYSMENU, HTMINBUTTON, HTMAXBUTTON, HTCLOSE, HTHELP};
+        constexpr std::array<LRESULT, 6> parts{HTCAPTION,   HTSYSMENU, HTMINBUTTON,
+                                               HTMAXBUTTON, HTCLOSE,   HTHELP};
         const POINT point = Input.Position();
         const LRESULT part =
             SendMessageW(WindowFromPoint(point), WM_NCHITTEST, 0, MAKELPARAM(point.x, point.y));

@@ -27,8 +27,8 @@ private:
 class CalendarMenus {
 public:
     CalendarMenus();
-    /// Destroys the menus of calendars that came since the object was made. For the end of a test, when all its
-    /// controls are gone.
+    /// Destroys the menus of calendars that came since the object was made. For the end of a test, when all
+    /// its controls are gone.
     void Sweep() const;
 
 private:

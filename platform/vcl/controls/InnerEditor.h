@@ -14,8 +14,8 @@ namespace vcl {
 /// Pixels that a line of text in the font takes, reckoned from the size of the font.
 [[nodiscard]] int EditorLineHeight(const TFont& font);
 
-/// Hands the focus that `outer` has just got on to the control inside, unless a handler closed the form or gave
-/// the focus to another control meanwhile.
+/// Hands the focus that `outer` has just got on to the control inside, unless a handler closed the form or
+/// gave the focus to another control meanwhile.
 void HandFocusIn(TWinControl& outer, TWinControl& inner);
 
 }  // namespace vcl
