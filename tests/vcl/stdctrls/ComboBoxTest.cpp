@@ -6,6 +6,7 @@
 namespace {
 
 using namespace vcl;
+using test::MouseButton;
 using test::PumpAll;
 
 class ComboBox : public test::FormTest {
