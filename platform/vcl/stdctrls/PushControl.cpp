@@ -159,7 +159,9 @@ HDC TPushControl::WindowDC() {
 }
 
 void TPushControl::ShowFace() {
-    if (HandleAllocated() && GetShowing()) PaintWindow(WindowDC());
+    // A window that is being destroyed loses the focus, and with it the look of the focus, for the last time.
+    const bool hasWindow = HandleAllocated() && !IsControlState(csDestroyingHandle);
+    if (hasWindow && GetShowing()) PaintWindow(WindowDC());
 }
 
 void TPushControl::Repaint() {
