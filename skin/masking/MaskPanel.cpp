@@ -7,9 +7,11 @@
 namespace qv7skin {
 
 void TMaskPanel::SetShape(TRegionHandle shape) {
-    HandleNeeded();
     FShape = std::move(shape);
-    GiveShapeToWindow();
+    if (HandleAllocated()) return GiveShapeToWindow();
+    // The new window takes the shape. Making those above it may mask the control anew, which frees this
+    // panel.
+    HandleNeeded();
 }
 
 void TMaskPanel::CreateWnd() {

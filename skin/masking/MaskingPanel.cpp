@@ -49,6 +49,7 @@ void TCustomMaskingPanel::Mask() {
         FMaskPanel->SetBevelOuter(bvNone);
         FMaskPanel->SetAlign(alClient);
         ApplyMask(*CreateMask(GetMaskSize()));
+        if (!FMaskPanel) return;
         FMaskPanel->Show();
         FMaskPanel->BringToFront();
     } catch (...) {

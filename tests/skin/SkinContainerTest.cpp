@@ -2,6 +2,7 @@
 
 #include "skin/UnitQV7SkinMasking.h"
 #include "tests/skin/ControlTest.h"
+#include "tests/support/FreedMemory.h"
 
 namespace qv7skin {
 namespace {
@@ -78,6 +79,23 @@ TEST_F(SkinContainerTest, AWindowMadeAnewIsFramedAgain) {
         container->RecreateWnd();
     EXPECT_TRUE(IsFramed(*container, false));
     EXPECT_EQ(container->GetControlCount(), 1);
+}
+
+TEST_F(SkinContainerTest, ASizeWithoutAWindowIsFramedOnce) {
+    auto* container = Make<TCustomQV7SkinContainer>({10, 10, 110, 40});
+    test::PumpAll();
+    container->Hide();
+    container->RecreateWnd();
+    ASSERT_FALSE(container->HandleAllocated());
+    {
+        const test::FreedMemory freed;
+        // The frame needs the window, which takes its size, and with it another frame.
+        container->SetBounds(10, 10, 90, 50);
+        EXPECT_EQ(test::FreedMemory::WrittenBlocks(), 0);
+    }
+    container->Show();
+    EXPECT_EQ(container->GetControlCount(), 1);
+    EXPECT_TRUE(IsFramed(*container, false));
 }
 
 TEST_F(SkinContainerTest, ItsEndTakesTheMaskAlong) {
