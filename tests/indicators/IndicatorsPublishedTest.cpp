@@ -10,6 +10,7 @@
 #include "platform/vcl/streaming/Reader.h"
 #include "platform/vcl/streaming/Writer.h"
 #include "tests/support/FormTest.h"
+#include "tests/support/PublishedTable.h"
 
 namespace test {
 namespace {
@@ -17,31 +18,8 @@ namespace {
 using namespace qv7skin;
 using Kind = TPropertyKind;
 
-/// A property that a class has to publish; without a value it has no default.
-struct TRow {
-    const wchar_t* Name;
-    Kind What;
-    std::optional<TPropertyValue> Default;
-};
-
-TPropertyValue Number(std::int64_t value) {
-    return value;
-}
-
-void ExpectPublishes(const TMetaClass& meta, std::span<const TRow> rows) {
-    const std::unique_ptr<TComponent> object(meta.Create(nullptr));
-    for (const TRow& row : rows) {
-        const TPublishedProperty* property = meta.FindProperty(row.Name);
-        ASSERT_NE(property, nullptr) << ToUtf8(row.Name);
-        EXPECT_EQ(property->Kind(), row.What) << ToUtf8(row.Name);
-        if (!row.Default) continue;
-        EXPECT_EQ(property->Default(), row.Default) << ToUtf8(row.Name);
-        EXPECT_EQ(property->Get(*object), *row.Default) << ToUtf8(row.Name);
-    }
-}
-
 TEST(IndicatorsPublished, TheGaugeHasEveryRowOfItsTable) {
-    const std::vector<TRow> rows{
+    const std::vector<PublishedRow> rows{
         {L"Kind", Kind::Enumeration, Number(1)},
         {L"MinValue", Kind::Integer, Number(0)},
         {L"MaxValue", Kind::Integer, Number(100)},
@@ -54,7 +32,7 @@ TEST(IndicatorsPublished, TheGaugeHasEveryRowOfItsTable) {
         {L"BackColor", Kind::Integer, Number(0x00FFFFFF)},
         {L"Align", Kind::Enumeration, Number(0)},
         {L"Anchors", Kind::Set, Number(3)},
-        {L"Color", Kind::Integer, {}},
+        {L"Color", Kind::Integer, Number(clWindow)},
         {L"Enabled", Kind::Boolean, Number(1)},
         {L"Font", Kind::Nested, {}},
         {L"ParentColor", Kind::Boolean, Number(1)},
@@ -70,7 +48,7 @@ TEST(IndicatorsPublished, TheGaugeHasEveryRowOfItsTable) {
 }
 
 TEST(IndicatorsPublished, TheLinkLabelHasItsOwnRowsAndThoseOfALabel) {
-    const std::vector<TRow> rows{
+    const std::vector<PublishedRow> rows{
         {L"Picture", Kind::Nested, {}},
         {L"TransparentColor", Kind::Integer, Number(clNone)},
         {L"EllipsType", Kind::Enumeration, Number(0)},
@@ -86,7 +64,7 @@ TEST(IndicatorsPublished, TheLinkLabelHasItsOwnRowsAndThoseOfALabel) {
 }
 
 TEST(IndicatorsPublished, TheSplitterHasThoseOfTheFrameworksAndItsLeastSizes) {
-    const std::vector<TRow> rows{
+    const std::vector<PublishedRow> rows{
         {L"MinConstraints", Kind::Nested, {}},
         {L"Align", Kind::Enumeration, Number(3)},
         {L"AutoSnap", Kind::Boolean, Number(1)},

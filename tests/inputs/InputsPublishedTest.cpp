@@ -18,6 +18,7 @@
 #include "platform/vcl/streaming/Reader.h"
 #include "tests/inputs/InputsTest.h"
 #include "tests/support/CalendarFonts.h"
+#include "tests/support/PublishedTable.h"
 
 namespace {
 
@@ -25,29 +26,8 @@ using namespace qv7skin;
 using namespace qv7skin::probes;
 using Kind = TPropertyKind;
 
-/// A property that a class has to publish; without a value it has no default.
-struct TRow {
-    const wchar_t* Name;
-    Kind What;
-    std::optional<TPropertyValue> Default;
-};
-
-TPropertyValue Number(std::int64_t value) {
-    return value;
-}
-
-/// In the class's own table, with that default, which a new object has.
-void ExpectPublishes(const TMetaClass& meta, std::span<const TRow> rows) {
-    const std::unique_ptr<TComponent> object(meta.Create(nullptr));
-    for (const TRow& row : rows) {
-        const TPublishedProperty* property = meta.FindProperty(row.Name);
-        ASSERT_NE(property, nullptr) << ToUtf8(row.Name);
-        EXPECT_EQ(property->Kind(), row.What) << ToUtf8(row.Name);
-        EXPECT_EQ(property->Default(), row.Default) << ToUtf8(row.Name);
-        if (!row.Default) continue;
-        EXPECT_EQ(property->Get(*object), *row.Default) << ToUtf8(row.Name);
-    }
-}
+using test::Number;
+using test::PublishedRow;
 
 class InputsPublished : public InputsTest {
 private:
@@ -55,7 +35,7 @@ private:
 };
 
 TEST_F(InputsPublished, TheComboBoxHasEveryRowOfItsTable) {
-    const TRow rows[] = {
+    const PublishedRow rows[] = {
         {L"TabOrder", Kind::Integer, Number(-1)},
         {L"TabStop", Kind::Boolean, Number(0)},
         {L"Anchors", Kind::Set, Number(3)},
@@ -74,7 +54,7 @@ TEST_F(InputsPublished, TheComboBoxHasEveryRowOfItsTable) {
 }
 
 TEST_F(InputsPublished, TheDropDownHasEveryRowOfItsTable) {
-    const TRow rows[] = {
+    const PublishedRow rows[] = {
         {L"TabOrder", Kind::Integer, Number(-1)},
         {L"TabStop", Kind::Boolean, Number(0)},
         {L"Align", Kind::Enumeration, Number(0)},
@@ -89,7 +69,7 @@ TEST_F(InputsPublished, TheDropDownHasEveryRowOfItsTable) {
 }
 
 TEST_F(InputsPublished, TheTreeComboBoxAddsNothingToItsBase) {
-    const TRow rows[] = {
+    const PublishedRow rows[] = {
         {L"Text", Kind::String, {}},           {L"Items", Kind::Nested, {}},
         {L"OnChange", Kind::Event, {}},        {L"OnClick", Kind::Event, {}},
         {L"OnKeyPress", Kind::Event, {}},      {L"OnDropUp", Kind::Event, {}},
@@ -100,7 +80,7 @@ TEST_F(InputsPublished, TheTreeComboBoxAddsNothingToItsBase) {
 }
 
 TEST_F(InputsPublished, TheSpinEditHasEveryRowOfItsTable) {
-    const TRow rows[] = {
+    const PublishedRow rows[] = {
         {L"TabOrder", Kind::Integer, Number(-1)},
         {L"TabStop", Kind::Boolean, Number(0)},
         {L"Anchors", Kind::Set, Number(3)},
@@ -119,7 +99,7 @@ TEST_F(InputsPublished, TheSpinEditHasEveryRowOfItsTable) {
 }
 
 TEST_F(InputsPublished, TheDatePickerHasEveryRowOfItsTable) {
-    const TRow rows[] = {
+    const PublishedRow rows[] = {
         {L"TabOrder", Kind::Integer, Number(-1)}, {L"TabStop", Kind::Boolean, Number(0)},
         {L"Align", Kind::Enumeration, Number(0)}, {L"Anchors", Kind::Set, Number(3)},
         {L"DateFormat", Kind::String, {}},        {L"EditMask", Kind::String, {}},
@@ -133,7 +113,7 @@ TEST_F(InputsPublished, TheDatePickerHasEveryRowOfItsTable) {
 }
 
 TEST_F(InputsPublished, TheEditHasEveryRowOfItsTable) {
-    const TRow rows[] = {
+    const PublishedRow rows[] = {
         {L"Text", Kind::String, {}},
         {L"PasswordChar", Kind::Integer, Number(0)},
         {L"Enabled", Kind::Boolean, Number(1)},
